@@ -1,0 +1,15 @@
+# The product: one file, __ocl_zorv_v8.so, that depends on nothing.
+file(GLOB library_sources CONFIGURE_DEPENDS RELATIVE ${PROJECT_SOURCE_DIR}
+  data/*.cpp quotients/*.cpp exact/*.cpp conversions/*.cpp explog/*.cpp trig/*.cpp)
+add_library(ocl_zorv_v8 SHARED ${library_sources})
+target_include_directories(ocl_zorv_v8
+  PRIVATE ${PROJECT_SOURCE_DIR}
+  INTERFACE $<BUILD_INTERFACE:${PROJECT_SOURCE_DIR}/include> $<INSTALL_INTERFACE:${CMAKE_INSTALL_INCLUDEDIR}>)
+target_compile_options(ocl_zorv_v8 PRIVATE
+  -fPIC -fvisibility=hidden -fno-exceptions -fno-rtti -fno-stack-protector -Wconversion -Wno-sign-conversion)
+target_link_options(ocl_zorv_v8 PRIVATE
+  -nostdlib -Wl,-z,defs -Wl,-z,text -Wl,-z,noexecstack -Wl,-z,relro -Wl,-z,now
+  -Wl,--version-script=${version_script})
+set_target_properties(ocl_zorv_v8 PROPERTIES
+  PREFIX "" OUTPUT_NAME __ocl_zorv_v8 LINK_DEPENDS ${version_script} NO_SONAME OFF)
+add_dependencies(ocl_zorv_v8 version_script_file)

@@ -1,0 +1,391 @@
+// Prints what is derived from the grid:
+//
+//   grid_outputs header          include/ocl_zorv_v8.h
+//   grid_outputs builtins        include/ocl_zorv_v8_builtins.h
+//   grid_outputs version_script  the linker's list of exports
+//   grid_outputs families        the README's table
+#include <cstdio>
+#include <cstdlib>
+#include <cstring>
+#include <map>
+#include <string>
+#include <vector>
+
+namespace {
+
+using std::string;
+
+struct Family {
+    string base, precision, accuracy_class, signature;
+    double bound;
+
+    string lane() const { return precision == "float_" ? "float" : "double"; }
+    string letter() const { return precision == "float_" ? "f" : ""; }
+    string suffix() const { return accuracy_class == "native" ? "_native" : ""; }
+    string name() const { return base + letter() + suffix(); }
+    string export_name(int width) const {
+        return "__ocl_zorv_v8_" + base + letter() + std::to_string(width) + suffix();
+    }
+};
+
+const std::vector<Family> families = {
+#define FAMILY(base, precision, class_, signature, home, bound) {#base, #precision, #class_, #signature, bound},
+#include "include/grid.def"
+};
+
+const int planned =
+#define PLANNED(base, precision, class_, signature) +1
+#include "include/grid.def"
+    ;
+
+constexpr int widths[] = {1, 2, 3, 4, 8, 16};
+
+struct Operation {
+    string builtin, what;
+};
+const std::map<string, Operation> operations = {
+#define OPERATION(base, builtin, what) {#base, {#builtin, what}},
+#include "include/operations.def"
+};
+
+struct About {
+    string special, method;
+};
+const std::map<string, About> abouts = {
+#define ABOUT(base, class_, special, method) {#base " " #class_, {special, method}},
+#include "include/operations.def"
+};
+
+// ---- Conversions describe themselves by their axes. --------------------------------------------------------
+
+struct Conversion {
+    string integer, rounding, saturation;
+    bool to_integer;
+};
+const std::map<string, Conversion> conversions = {
+#define TO_INTEGER(base, precision, target, rounding, saturation) {#base, {#target, #rounding, #saturation, true}},
+#define FROM_INTEGER(base, precision, source, rounding) {#base, {#source, #rounding, "", false}},
+#include "include/grid.def"
+};
+
+const std::map<string, string> integer_types = {{"i32", "int"}, {"u32", "uint"}, {"i64", "long"}, {"u64", "ulong"}};
+const std::map<string, string> roundings = {{"rtn", "to nearest, ties to even"},
+                                            {"rtz", "toward zero"},
+                                            {"up", "toward positive infinity"},
+                                            {"down", "toward negative infinity"}};
+// This library's tags and OpenCL's suffixes differ: `rtn` here is nearest, `_rtn` there is down.
+const std::map<string, string> opencl_roundings = {{"rtn", "_rte"}, {"rtz", "_rtz"}, {"up", "_rtp"}, {"down", "_rtn"}};
+
+Operation operation_of(const Family& family) {
+    if (auto found = conversions.find(family.base); found != conversions.end()) {
+        const Conversion& c = found->second;
+        string integer = integer_types.at(c.integer);
+        return {"convert", c.to_integer ? "x as " + integer + ", rounded " + roundings.at(c.rounding)
+                                        : "x, of " + integer + " lanes, as floating, rounded " +
+                                              roundings.at(c.rounding)};
+    }
+    if (auto found = operations.find(family.base); found != operations.end()) return found->second;
+    std::fprintf(stderr, "no OPERATION for %s\n", family.base.c_str());
+    std::exit(1);
+}
+
+About about(const Family& family) {
+    if (auto found = conversions.find(family.base); found != conversions.end()) {
+        const Conversion& c = found->second;
+        if (!c.to_integer) return {"Every integer has a result; 0 gives +0.", "Exact pieces, one rounded sum."};
+        bool is_unsigned = c.integer[0] == 'u';
+        if (c.saturation == "sat")
+            return {c.integer == "u32" ? "Clamped to the integer's range; NaN gives all ones, or 0 if its sign is set."
+                                       : "Clamped to the integer's range; NaN gives 0.",
+                    "Rounded by a shifter, then converted exactly."};
+        return {string(is_unsigned ? "The sign is dropped after rounding; out" : "Out") +
+                    " of range and NaN give the lowest signed integer's pattern.",
+                "Rounded by a shifter, then converted exactly."};
+    }
+    if (auto found = abouts.find(family.base + " " + family.accuracy_class); found != abouts.end())
+        return found->second;
+    std::fprintf(stderr, "no ABOUT for %s %s\n", family.base.c_str(), family.accuracy_class.c_str());
+    std::exit(1);
+}
+
+// ---- Signatures in C and in OpenCL C. ----------------------------------------------------------------------
+
+// In the declarations every vector is spelled as it travels: width 3 as the four-lane type.
+string vector(const string& lane, int width) {
+    if (width == 1 && lane == "uint") return "unsigned int";
+    if (width == 1 && lane == "long") return "__INT64_TYPE__";
+    if (width == 1 && lane == "ulong") return "__UINT64_TYPE__";
+    return width == 1 ? lane : lane + std::to_string(width == 3 ? 4 : width);
+}
+
+struct Signature {
+    std::vector<string> operands;  // lanes
+    string result;                 // lane
+    string pointer;                // lane of the second result, where it goes through a pointer
+    bool pair = false;
+};
+
+Signature signature_of(const Family& family) {
+    const string& s = family.signature;
+    string f = family.lane();
+    if (s == "one_operand") return {{f}, f, ""};
+    if (s == "two_operands") return {{f, f}, f, ""};
+    if (s == "three_operands") return {{f, f, f}, f, ""};
+    if (s == "operand_and_integer") return {{f, "int"}, f, ""};
+    if (s == "integer_result") return {{f}, "int", ""};
+    if (s == "pointer_result") return {{f}, f, f};
+    if (s == "integer_pointer_result") return {{f}, f, "int"};
+    if (s == "two_operands_integer_pointer_result") return {{f, f}, f, "int"};
+    if (s == "pair_result") return {{f}, f, "", true};
+    if (s == "from_code") return {{f == "float" ? "uint" : "ulong"}, f, ""};
+    if (s.starts_with("to_")) return {{f}, integer_types.at(s.substr(3)), ""};
+    if (s.starts_with("from_")) return {{integer_types.at(s.substr(5))}, f, ""};
+    std::fprintf(stderr, "unknown signature %s\n", s.c_str());
+    std::exit(1);
+}
+
+std::vector<string> operand_names(const Family& family) {
+    if (family.signature == "three_operands") return {"a", "b", "c"};
+    if (family.signature == "operand_and_integer") return {"x", "n"};
+    if (family.signature == "from_code") return {"code"};
+    return {"x", "y"};
+}
+
+string declaration(const Family& family, int width) {
+    Signature s = signature_of(family);
+    std::vector<string> names = operand_names(family);
+    string text = s.pair ? width == 1 ? s.result + "2" : s.result + std::to_string(width) + "_pair"
+                         : vector(s.result, width);
+    text += " " + family.export_name(width) + "(";
+    for (size_t i = 0; i < s.operands.size(); ++i)
+        text += (i ? ", " : "") + vector(s.operands[i], width) + " " + names[i];
+    if (!s.pointer.empty()) text += ", " + vector(s.pointer, width) + " *second";
+    return text + ");";
+}
+
+// ---- Text. -------------------------------------------------------------------------------------------------
+
+void wrapped(const string& prefix, const string& text, size_t columns = 110) {
+    string line = prefix;
+    size_t at = 0;
+    while (at < text.size()) {
+        size_t end = text.find(' ', at);
+        if (end == string::npos) end = text.size();
+        if (line.size() + 1 + (end - at) > columns) {
+            std::puts(line.c_str());
+            line = prefix;
+        }
+        line += " " + text.substr(at, end - at);
+        at = end + 1;
+    }
+    std::puts(line.c_str());
+}
+
+string error_text(double bound) {
+    if (bound == 0) return "Error: none, the result is exact.";
+    if (bound == 0.5) return "Error: 0.5 ulp, correctly rounded.";
+    char text[64];
+    std::snprintf(text, sizeof text, "Error: %g ulp at most, measured.", bound);
+    return text;
+}
+
+string unit_text(const Family& family) {
+    if (family.base.starts_with("sincos") || family.base == "sin" || family.base == "cos" || family.base == "tan")
+        return "Radians. ";
+    return "";
+}
+
+string lanes_text(const Family& family) {
+    Signature s = signature_of(family);
+    string text;
+    for (size_t i = 0; i < s.operands.size(); ++i)
+        text += (i ? ", " : "") + operand_names(family)[i] + ": " + s.operands[i];
+    text += "; result: " + s.result;
+    if (!s.pointer.empty()) text += "; through the pointer: " + s.pointer;
+    if (s.pair) text += ", first the sine, then the cosine";
+    return text + ".";
+}
+
+// ---- Outputs. ----------------------------------------------------------------------------------------------
+
+void print_header() {
+    std::puts(
+        "/* Vectorised math kernels for OpenCL run-times: the exported functions.\n"
+        " *\n"
+        " * Written by tools/grid_outputs.cpp from the grid; do not edit.\n"
+        " *\n"
+        " * Every function takes its operands by value as vectors of 1, 2, 3, 4, 8 or 16 lanes; the number of lanes\n"
+        " * ends the name, before _native. Width 3 travels as a vector of four lanes, the fourth of which is ignored\n"
+        " * in operands and unspecified in results; a width-3 pointer needs room for four. Pointers at widths 3 and\n"
+        " * up, and double ones at width 2, are aligned to 16 bytes. Errors are in units in the last place (ulp).\n"
+        " */\n"
+        "#ifndef OCL_ZORV_V8_H\n"
+        "#define OCL_ZORV_V8_H\n"
+        "\n"
+        "#if !defined(__clang__) || !defined(__i386__) || !defined(__SSE2__)\n"
+        "#error \"ocl_zorv_v8.h needs clang with -m32 -msse2: the functions follow its convention for vector operands\"\n"
+        "#endif\n"
+        "\n"
+        "#ifdef __OPENCL_VERSION__\n"
+        "#pragma OPENCL EXTENSION cl_khr_fp64 : enable\n"
+        "#else");
+    struct Lane {
+        const char *name, *scalar;
+    };
+    for (Lane lane : {Lane{"float", "float"}, Lane{"double", "double"}, Lane{"int", "int"},
+                      Lane{"uint", "unsigned int"}, Lane{"long", "__INT64_TYPE__"}, Lane{"ulong", "__UINT64_TYPE__"}})
+        for (int width : widths)
+            if (width > 1)
+                std::printf("typedef %s %s%d __attribute__((ext_vector_type(%d)));\n", lane.scalar, lane.name, width,
+                            width == 3 ? 4 : width);
+    std::puts("#endif\n");
+    std::puts("/* Two vectors returned together; at width 1 the pair is one two-lane vector. */");
+    for (const char* lane : {"float", "double"})
+        for (int width : widths)
+            if (width > 1)
+                std::printf("typedef struct { %s sine, cosine; } %s%d_pair;\n", vector(lane, width).c_str(), lane,
+                            width);
+    std::puts("\n#ifdef __cplusplus\nextern \"C\" {\n#pragma clang diagnostic push\n"
+              "#pragma clang diagnostic ignored \"-Wreturn-type-c-linkage\"\n#endif");
+    for (const Family& family : families) {
+        About about_it = about(family);
+        std::puts("");
+        wrapped("/*", family.name() + ": " + operation_of(family).what + ". " + unit_text(family) + lanes_text(family));
+        wrapped(" *", about_it.special);
+        wrapped(" *", error_text(family.bound));
+        wrapped(" *", about_it.method + " */");
+        for (int width : widths) std::puts(declaration(family, width).c_str());
+    }
+    std::puts("\n#ifdef __cplusplus\n#pragma clang diagnostic pop\n}\n#endif\n\n#endif");
+}
+
+// The built-in's name, and the operands in its order.
+string builtin_name(const Family& family) {
+    if (auto found = conversions.find(family.base); found != conversions.end()) {
+        const Conversion& c = found->second;
+        return opencl_roundings.at(c.rounding);
+    }
+    string name = operation_of(family).builtin;
+    if (family.accuracy_class == "native") return "native_" + name;
+    return name == "recip" || name == "divide" ? "none" : name;  // these are operators in the accurate class
+}
+
+string call_text(const Family& family, int width, const string& arguments) {
+    string call = family.export_name(width) + "(" + arguments + ")";
+    return width == 3 ? "(" + call + ").xyz" : call;
+}
+
+string arguments_text(const Family& family, int width) {
+    Signature s = signature_of(family);
+    string text;
+    for (size_t i = 0; i < s.operands.size(); ++i)
+        text += (i ? ", " : "") + operand_names(family)[i] + (width == 3 ? ".xyzz" : "");
+    return text;
+}
+
+string opencl_vector(const string& lane, int width) { return width == 1 ? lane : lane + std::to_string(width); }
+
+string parameters_text(const Family& family, int width) {
+    Signature s = signature_of(family);
+    string text;
+    for (size_t i = 0; i < s.operands.size(); ++i)
+        text += (i ? ", " : "") + opencl_vector(s.operands[i], width) + " " + operand_names(family)[i];
+    return text;
+}
+
+void print_overload(const Family& family, int width) {
+    Signature s = signature_of(family);
+    string result = opencl_vector(s.result, width);
+    string name = builtin_name(family);
+    string parameters = parameters_text(family, width);
+    if (s.pointer.empty()) {
+        std::printf("OVERLOAD %s %s(%s) { return %s; }\n", result.c_str(), name.c_str(), parameters.c_str(),
+                    call_text(family, width, arguments_text(family, width)).c_str());
+        return;
+    }
+    // The export writes to private memory; the overload carries the value to whichever space the caller named.
+    for (const char* space : {"private", "local", "global"}) {
+        string arguments = arguments_text(family, width) + ", &second";
+        std::printf("OVERLOAD %s %s(%s, %s %s *pointer) {\n    %s second;\n    %s first = %s;\n    *pointer = "
+                    "second%s;\n    return first;\n}\n",
+                    result.c_str(), name.c_str(), parameters.c_str(), space, opencl_vector(s.pointer, width).c_str(),
+                    vector(s.pointer, width).c_str(), result.c_str(), call_text(family, width, arguments).c_str(),
+                    width == 3 ? ".xyz" : "");
+    }
+}
+
+// convert_<type>[_sat][_<rounding>]: a name of its own for each target type, so the width is in the name.
+void print_conversion(const Family& family, const Conversion& c, int width) {
+    Signature s = signature_of(family);
+    string result = opencl_vector(s.result, width);
+    string parameters = parameters_text(family, width);
+    string call = call_text(family, width, arguments_text(family, width));
+    string stem = "convert_" + result + (c.saturation == "sat" ? "_sat" : "");
+    std::printf("OVERLOAD %s %s%s(%s) { return %s; }\n", result.c_str(), stem.c_str(),
+                opencl_roundings.at(c.rounding).c_str(), parameters.c_str(), call.c_str());
+    // Without a suffix: toward zero to an integer, to nearest to a floating type.
+    if (c.rounding == (c.to_integer ? "rtz" : "rtn"))
+        std::printf("OVERLOAD %s %s(%s) { return %s; }\n", result.c_str(), stem.c_str(), parameters.c_str(),
+                    call.c_str());
+}
+
+void print_builtins() {
+    std::puts(
+        "/* OpenCL C built-ins as overloads that call the library: include this before a kernel, and the kernel needs\n"
+        " * no change. Built-ins that the library does not serve yet are not declared.\n"
+        " *\n"
+        " * Written by tools/grid_outputs.cpp from the grid; do not edit.\n"
+        " */\n"
+        "#ifndef OCL_ZORV_V8_BUILTINS_H\n"
+        "#define OCL_ZORV_V8_BUILTINS_H\n"
+        "\n"
+        "#include \"ocl_zorv_v8.h\"\n"
+        "\n"
+        "#define OVERLOAD static inline __attribute__((overloadable, always_inline))");
+    string last;
+    for (const Family& family : families) {
+        auto conversion = conversions.find(family.base);
+        if (conversion == conversions.end() && builtin_name(family) == "none") continue;
+        if (family.name() != last) std::printf("\n/* %s */\n", family.name().c_str());
+        last = family.name();
+        for (int width : widths) {
+            if (conversion == conversions.end())
+                print_overload(family, width);
+            else
+                print_conversion(family, conversion->second, width);
+        }
+    }
+    std::puts("\n#undef OVERLOAD\n\n#endif");
+}
+
+void print_version_script() {
+    std::puts("{\n  global:");
+    for (const Family& family : families)
+        for (int width : widths) std::printf("    %s;\n", family.export_name(width).c_str());
+    std::puts("  local: *;\n};");
+}
+
+void print_families() {
+    std::printf("%zu of %zu families stand.\n\n", families.size(), families.size() + static_cast<size_t>(planned));
+    std::puts("| family | what it computes | error, ulp |\n|---|---|---|");
+    for (const Family& family : families) {
+        if (conversions.contains(family.base)) continue;
+        std::printf("| `%s` | %s | %g |\n", family.name().c_str(), operation_of(family).what.c_str(), family.bound);
+    }
+}
+
+}  // namespace
+
+int main(int count, char** arguments) {
+    string what = count == 2 ? arguments[1] : "";
+    if (what == "header")
+        print_header();
+    else if (what == "builtins")
+        print_builtins();
+    else if (what == "version_script")
+        print_version_script();
+    else if (what == "families")
+        print_families();
+    else
+        return std::fputs("usage: grid_outputs header|builtins|version_script|families\n", stderr), 2;
+}
