@@ -90,6 +90,25 @@ inline D2 hardware_max(D2 x, D2 y) { return _mm_max_pd(x, y); }
 inline F4 reciprocal_estimate(F4 x) { return _mm_rcp_ps(x); }
 inline F4 rsqrt_estimate(F4 x) { return _mm_rsqrt_ps(x); }
 
+// x * y and x + y with x as the instruction's first operand, which decides the payload where both are NaN. The
+// compiler takes the plain operators as commutative.
+inline F4 multiply_in_order(F4 x, F4 y) {
+    asm("mulps %1, %0" : "+x"(x) : "x"(y));
+    return x;
+}
+inline D2 multiply_in_order(D2 x, D2 y) {
+    asm("mulpd %1, %0" : "+x"(x) : "x"(y));
+    return x;
+}
+inline F4 add_in_order(F4 x, F4 y) {
+    asm("addps %1, %0" : "+x"(x) : "x"(y));
+    return x;
+}
+inline D2 add_in_order(D2 x, D2 y) {
+    asm("addpd %1, %0" : "+x"(x) : "x"(y));
+    return x;
+}
+
 inline D2 hardware_sqrt(D2 x) { return _mm_sqrt_pd(x); }
 
 // ---- 64-bit lanes seen as pairs of 32-bit halves. ----------------------------------------------------------

@@ -4,6 +4,7 @@
 
 #include <array>
 #include <cstddef>
+#include <ostream>
 #include <string>
 #include <vector>
 
@@ -34,6 +35,8 @@ struct Family {
     Call call(int width) const;
     const std::string& export_name(int width) const;
 };
+
+inline void PrintTo(const Family& family, std::ostream* out) { *out << family.name; }
 
 const std::vector<Family>& families();
 // The family of this name; none that stands is a null pointer.
