@@ -295,7 +295,9 @@ struct ThroughPointer {
     using Type = Value;
     SecondValue* target;
     ALWAYS_INLINE Value operator()(Value first, SecondValue second) const {
-        *target = second;  // contiguous lanes; whole, aligned units at widths 3 and up
+        // Contiguous lanes. A caller need not align more than whole units, whatever the vector type would like.
+        constexpr size_t alignment = sizeof second < 16 ? alignof(SecondValue) : 16;
+        __builtin_memcpy(__builtin_assume_aligned(target, alignment), &second, sizeof second);
         return first;
     }
 };
