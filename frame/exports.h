@@ -39,9 +39,9 @@
     EXPORT(base, precision, class_, signature, 4)    \
     EXPORT(base, precision, class_, signature, 8)    \
     EXPORT(base, precision, class_, signature, 16)
-#define EXPORT(base, precision, class_, signature, width)                                             \
-    EXPORT_##signature(EXPORT_NAME(base, precision, class_, width), KERNEL_NAME(base, precision, class_), \
-                       precision, width)
+#define EXPORT(base, precision, class_, signature, width)                                                            \
+    EXPORT_##signature(EXPORT_NAME(base, precision, class_, width), KERNEL_NAME(base, precision, class_), precision, \
+                       width)
 
 // Signatures. F is the family's floating lane, I a 32-bit integer lane, in double families too.
 #define VECTOR(lane, width) zorv::Vector<lane, width>
@@ -50,44 +50,36 @@
 #define EXPORTED extern "C" __attribute__((visibility("default")))
 #define FRAME(kernel, width) zorv::Frame<kernel, width>
 
-#define EXPORT_one_operand(name, kernel, precision, width)             \
-    EXPORTED F(precision, width) name(F(precision, width) x) {         \
-        return FRAME(kernel, width)::call(x);                          \
+#define EXPORT_one_operand(name, kernel, precision, width) \
+    EXPORTED F(precision, width) name(F(precision, width) x) { return FRAME(kernel, width)::call(x); }
+#define EXPORT_two_operands(name, kernel, precision, width)                           \
+    EXPORTED F(precision, width) name(F(precision, width) x, F(precision, width) y) { \
+        return FRAME(kernel, width)::call(x, y);                                      \
     }
-#define EXPORT_two_operands(name, kernel, precision, width)                                \
-    EXPORTED F(precision, width) name(F(precision, width) x, F(precision, width) y) {      \
-        return FRAME(kernel, width)::call(x, y);                                           \
+#define EXPORT_three_operands(name, kernel, precision, width)                                                \
+    EXPORTED F(precision, width) name(F(precision, width) a, F(precision, width) b, F(precision, width) c) { \
+        return FRAME(kernel, width)::call(a, b, c);                                                          \
     }
-#define EXPORT_three_operands(name, kernel, precision, width)                                                     \
-    EXPORTED F(precision, width) name(F(precision, width) a, F(precision, width) b, F(precision, width) c) {      \
-        return FRAME(kernel, width)::call(a, b, c);                                                               \
-    }
-#define EXPORT_operand_and_integer(name, kernel, precision, width)             \
-    EXPORTED F(precision, width) name(F(precision, width) x, I(width) n) {     \
-        return FRAME(kernel, width)::call(x, n);                               \
-    }
+#define EXPORT_operand_and_integer(name, kernel, precision, width) \
+    EXPORTED F(precision, width) name(F(precision, width) x, I(width) n) { return FRAME(kernel, width)::call(x, n); }
 #define EXPORT_integer_result(name, kernel, precision, width) \
-    EXPORTED I(width) name(F(precision, width) x) {           \
-        return FRAME(kernel, width)::call(x);                 \
+    EXPORTED I(width) name(F(precision, width) x) { return FRAME(kernel, width)::call(x); }
+#define EXPORT_pointer_result(name, kernel, precision, width)                                \
+    EXPORTED F(precision, width) name(F(precision, width) x, F(precision, width) * second) { \
+        return FRAME(kernel, width)::call_with_pointer(x, second);                           \
     }
-#define EXPORT_pointer_result(name, kernel, precision, width)                                      \
-    EXPORTED F(precision, width) name(F(precision, width) x, F(precision, width) * second) {       \
-        return FRAME(kernel, width)::call_with_pointer(x, second);                                 \
+#define EXPORT_integer_pointer_result(name, kernel, precision, width)             \
+    EXPORTED F(precision, width) name(F(precision, width) x, I(width) * second) { \
+        return FRAME(kernel, width)::call_with_pointer(x, second);                \
     }
-#define EXPORT_integer_pointer_result(name, kernel, precision, width)                  \
-    EXPORTED F(precision, width) name(F(precision, width) x, I(width) * second) {      \
-        return FRAME(kernel, width)::call_with_pointer(x, second);                     \
-    }
-#define EXPORT_two_operands_integer_pointer_result(name, kernel, precision, width)                              \
-    EXPORTED F(precision, width) name(F(precision, width) x, F(precision, width) y, I(width) * second) {        \
-        return FRAME(kernel, width)::call_with_pointer(x, y, second);                                           \
+#define EXPORT_two_operands_integer_pointer_result(name, kernel, precision, width)                       \
+    EXPORTED F(precision, width) name(F(precision, width) x, F(precision, width) y, I(width) * second) { \
+        return FRAME(kernel, width)::call_with_pointer(x, y, second);                                    \
     }
 #define EXPORT_pair_result(name, kernel, precision, width) \
     EXPORT_pair_##width(name, kernel, PASTE5(LANE_##precision, width, _pair, , ), precision, width)
-#define EXPORT_pair_1(name, kernel, pair, precision, width)                     \
-    EXPORTED F(precision, 2) name(F(precision, width) x) {                      \
-        return FRAME(kernel, width)::call_for_pair(x);                          \
-    }
+#define EXPORT_pair_1(name, kernel, pair, precision, width) \
+    EXPORTED F(precision, 2) name(F(precision, width) x) { return FRAME(kernel, width)::call_for_pair(x); }
 #define EXPORT_pair_wide(name, kernel, pair, precision, width) \
     EXPORTED pair name(F(precision, width) x) {                \
         auto both = FRAME(kernel, width)::call_for_pair(x);    \
@@ -98,22 +90,16 @@
 #define EXPORT_pair_4 EXPORT_pair_wide
 #define EXPORT_pair_8 EXPORT_pair_wide
 #define EXPORT_pair_16 EXPORT_pair_wide
-#define EXPORT_from_code(name, kernel, precision, width)                            \
-    EXPORTED F(precision, width) name(VECTOR(CODE_##precision, width) code) {       \
-        return FRAME(kernel, width)::call(code);                                    \
-    }
-#define EXPORT_to(name, kernel, precision, width, integer)                   \
-    EXPORTED VECTOR(integer, width) name(F(precision, width) x) {            \
-        return FRAME(kernel, width)::call(x);                                \
-    }
+#define EXPORT_from_code(name, kernel, precision, width) \
+    EXPORTED F(precision, width) name(VECTOR(CODE_##precision, width) code) { return FRAME(kernel, width)::call(code); }
+#define EXPORT_to(name, kernel, precision, width, integer) \
+    EXPORTED VECTOR(integer, width) name(F(precision, width) x) { return FRAME(kernel, width)::call(x); }
 #define EXPORT_to_i32(name, kernel, precision, width) EXPORT_to(name, kernel, precision, width, int32_t)
 #define EXPORT_to_u32(name, kernel, precision, width) EXPORT_to(name, kernel, precision, width, uint32_t)
 #define EXPORT_to_i64(name, kernel, precision, width) EXPORT_to(name, kernel, precision, width, int64_t)
 #define EXPORT_to_u64(name, kernel, precision, width) EXPORT_to(name, kernel, precision, width, uint64_t)
-#define EXPORT_from(name, kernel, precision, width, integer)                 \
-    EXPORTED F(precision, width) name(VECTOR(integer, width) x) {            \
-        return FRAME(kernel, width)::call(x);                                \
-    }
+#define EXPORT_from(name, kernel, precision, width, integer) \
+    EXPORTED F(precision, width) name(VECTOR(integer, width) x) { return FRAME(kernel, width)::call(x); }
 #define EXPORT_from_i32(name, kernel, precision, width) EXPORT_from(name, kernel, precision, width, int32_t)
 #define EXPORT_from_u32(name, kernel, precision, width) EXPORT_from(name, kernel, precision, width, uint32_t)
 #define EXPORT_from_i64(name, kernel, precision, width) EXPORT_from(name, kernel, precision, width, int64_t)

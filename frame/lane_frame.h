@@ -164,8 +164,7 @@ ALWAYS_INLINE Unit take_unit(Vector<typename Layout<Unit>::Lane, width> vector) 
         else
             return Unit{lane, lane};
     } else if constexpr (Layout<Unit>::lanes == 4)
-        return __builtin_shufflevector(vector, vector, first % w, (first + 1) % w, (first + 2) % w,
-                                       (first + 3) % w);
+        return __builtin_shufflevector(vector, vector, first % w, (first + 1) % w, (first + 2) % w, (first + 3) % w);
     else
         return __builtin_shufflevector(vector, vector, first % w, (first + 1) % w);
 }
@@ -180,8 +179,7 @@ ALWAYS_INLINE Units take(Vector<typename Layout<Units>::Lane, width> vector) {
         if constexpr (width == 1)
             return {I4{vector, vector, vector, vector}};
         else
-            return {__builtin_shufflevector(vector, vector, first % w, first % w, (first + 1) % w,
-                                            (first + 1) % w)};
+            return {__builtin_shufflevector(vector, vector, first % w, first % w, (first + 1) % w, (first + 1) % w)};
     } else {
         return take_unit<Units, width, first>(vector);
     }
@@ -348,8 +346,7 @@ class Frame<Kernel, width, Returned (*)(Operands...)> {
     }
     // Two results, the second through a pointer.
     ALWAYS_INLINE static Value call_with_pointer(VectorFor<Operands>... operands, SecondValue* second) {
-        return start(ThroughPointer<Value, SecondValue>{second}, std::index_sequence_for<Operands...>(),
-                     operands...);
+        return start(ThroughPointer<Value, SecondValue>{second}, std::index_sequence_for<Operands...>(), operands...);
     }
     // Two results by value.
     ALWAYS_INLINE static Pair call_for_pair(VectorFor<Operands>... operands) {
@@ -366,7 +363,7 @@ class Frame<Kernel, width, Returned (*)(Operands...)> {
         Outcome outcome;
         compute(outcome, operands...);
         if constexpr (Result::kind == FrameKind::all_rare) {
-            constexpr unsigned every_lane = (1u << room<width>) - 1;
+            constexpr unsigned every_lane = (1u << (room<width>)) - 1;
             return repair(operands..., outcome.first, outcome.second, every_lane, deliver);
         } else if constexpr (has_mask) {
             unsigned rare_lanes = bit_mask<width>(outcome.rare.step);
@@ -460,8 +457,8 @@ class Frame<Kernel, width, Returned (*)(Operands...)> {
     ALWAYS_INLINE_WITH_CALLS static void compute_batch(Outcome& outcome, const AllSteps<Operands>&... operands) {
         constexpr size_t next = steps == 1 ? 0 : 1;  // at width 1 all four units are the same value
         Steps<First, 4> results =
-            Kernel::batch(Steps<Operands, 4>{operands.step[at], operands.step[at + next],
-                                             operands.step[at + 2 * next], operands.step[at + 3 * next]}...);
+            Kernel::batch(Steps<Operands, 4>{operands.step[at], operands.step[at + next], operands.step[at + 2 * next],
+                                             operands.step[at + 3 * next]}...);
         for (size_t i = 0; i < (steps == 1 ? 1 : 4); ++i) outcome.first.step[at + i] = results.step[i];
     }
 
@@ -479,7 +476,7 @@ class Frame<Kernel, width, Returned (*)(Operands...)> {
 
     template <class Delivery>
     [[gnu::noinline, gnu::regcall]] static typename Delivery::Type take_long_path(AllSteps<Operands>... operands,
-                                                                                    Delivery deliver) {
+                                                                                  Delivery deliver) {
         return Frame<typename Kernel::LongPath, width>::run(deliver, operands...);
     }
 
@@ -488,9 +485,11 @@ class Frame<Kernel, width, Returned (*)(Operands...)> {
     // Operands, results and mask arrive in registers. Whatever needs memory is in here, so the export itself has
     // no frame to align and nothing to spill.
     template <class Delivery>
-    [[gnu::noinline, gnu::cold, gnu::regcall]] static typename Delivery::Type repair(
-        AllSteps<Operands>... operands, AllSteps<First> first, SecondSteps second, unsigned rare_lanes,
-        Delivery deliver) {
+    [[gnu::noinline, gnu::cold, gnu::regcall]] static typename Delivery::Type repair(AllSteps<Operands>... operands,
+                                                                                     AllSteps<First> first,
+                                                                                     SecondSteps second,
+                                                                                     unsigned rare_lanes,
+                                                                                     Delivery deliver) {
         StagingArea<Lane<First>, width> first_area(put<width>(first));
         if constexpr (two_results) {
             StagingArea<Lane<Second>, width> second_area(put<width>(second));

@@ -118,9 +118,7 @@ inline I4 halves(D2 x) { return reinterpret_cast<I4>(x); }
 inline L2 from_halves(I4 x) { return reinterpret_cast<L2>(x); }
 
 // The low or the high 32-bit halves of four 64-bit lanes, in one unit of four lanes.
-inline I4 low_halves(L2 first, L2 second) {
-    return __builtin_shufflevector(halves(first), halves(second), 0, 2, 4, 6);
-}
+inline I4 low_halves(L2 first, L2 second) { return __builtin_shufflevector(halves(first), halves(second), 0, 2, 4, 6); }
 inline I4 high_halves(L2 first, L2 second) {
     return __builtin_shufflevector(halves(first), halves(second), 1, 3, 5, 7);
 }

@@ -17,7 +17,7 @@ struct Element {
     using type = std::remove_reference_t<decltype(std::declval<Vector&>()[0])>;
 };
 template <class Scalar>
-    requires std::is_arithmetic_v<Scalar>
+requires std::is_arithmetic_v<Scalar>
 struct Element<Scalar> {
     using type = Scalar;
 };
@@ -46,8 +46,8 @@ struct Thunk {
     template <size_t... i>
     static void invoke(const void* const* operands, void* const* results, std::index_sequence<i...>) {
         constexpr size_t inputs = (size_t{!std::is_pointer_v<Operands>} + ...);
-        Result result = function(load<Operands>(i < inputs ? operands[i] : nullptr,
-                                                inputs < sizeof...(Operands) ? results[1] : nullptr)...);
+        Result result = function(
+            load<Operands>(i < inputs ? operands[i] : nullptr, inputs < sizeof...(Operands) ? results[1] : nullptr)...);
         if (pair) {
             std::memcpy(results[0], &result, sizeof result / 2);
             std::memcpy(results[1], reinterpret_cast<const char*>(&result) + sizeof result / 2, sizeof result / 2);
@@ -92,33 +92,32 @@ void describe(Family& family, Result (*)(Operands...)) {
 #define PASTE5_(a, b, c, d, e) a##b##c##d##e
 #define TEXT(name) TEXT_(name)
 #define TEXT_(name) #name
-#define EXPORT(base, precision, class_, width) \
-    PASTE5(__ocl_zorv_v8_, base, LETTER_##precision, width, CLASS_##class_)
+#define EXPORT(base, precision, class_, width) PASTE5(__ocl_zorv_v8_, base, LETTER_##precision, width, CLASS_##class_)
 #define THUNK(base, precision, class_, width, pair) \
     thunk<EXPORT(base, precision, class_, width), pair>(&EXPORT(base, precision, class_, width))
 
 std::vector<Family> make_families() {
     std::vector<Family> list;
-#define FAMILY(base, precision, class_, signature, home, bound)                                               \
-    {                                                                                                         \
-        constexpr bool pair = std::string_view(#signature) == "pair_result";                                  \
-        Family family = {TEXT(PASTE5(base, LETTER_##precision, CLASS_##class_, , )),                          \
-                         #base,                                                                               \
-                         #signature,                                                                          \
-                         std::string_view(#precision) == "float_",                                            \
-                         std::string_view(#class_) == "native",                                               \
-                         bound,                                                                               \
-                         {},                                                                                  \
-                         {},                                                                                  \
-                         false,                                                                               \
-                         {THUNK(base, precision, class_, 1, pair), THUNK(base, precision, class_, 2, pair),   \
-                          THUNK(base, precision, class_, 3, pair), THUNK(base, precision, class_, 4, pair),   \
-                          THUNK(base, precision, class_, 8, pair), THUNK(base, precision, class_, 16, pair)}, \
-                         {TEXT(EXPORT(base, precision, class_, 1)), TEXT(EXPORT(base, precision, class_, 2)), \
-                          TEXT(EXPORT(base, precision, class_, 3)), TEXT(EXPORT(base, precision, class_, 4)), \
+#define FAMILY(base, precision, class_, signature, home, bound)                                                  \
+    {                                                                                                            \
+        constexpr bool pair = std::string_view(#signature) == "pair_result";                                     \
+        Family family = {TEXT(PASTE5(base, LETTER_##precision, CLASS_##class_, , )),                             \
+                         #base,                                                                                  \
+                         #signature,                                                                             \
+                         std::string_view(#precision) == "float_",                                               \
+                         std::string_view(#class_) == "native",                                                  \
+                         bound,                                                                                  \
+                         {},                                                                                     \
+                         {},                                                                                     \
+                         false,                                                                                  \
+                         {THUNK(base, precision, class_, 1, pair), THUNK(base, precision, class_, 2, pair),      \
+                          THUNK(base, precision, class_, 3, pair), THUNK(base, precision, class_, 4, pair),      \
+                          THUNK(base, precision, class_, 8, pair), THUNK(base, precision, class_, 16, pair)},    \
+                         {TEXT(EXPORT(base, precision, class_, 1)), TEXT(EXPORT(base, precision, class_, 2)),    \
+                          TEXT(EXPORT(base, precision, class_, 3)), TEXT(EXPORT(base, precision, class_, 4)),    \
                           TEXT(EXPORT(base, precision, class_, 8)), TEXT(EXPORT(base, precision, class_, 16))}}; \
-        describe(family, &EXPORT(base, precision, class_, 4));                                          \
-        list.push_back(std::move(family));                                                                    \
+        describe(family, &EXPORT(base, precision, class_, 4));                                                   \
+        list.push_back(std::move(family));                                                                       \
     }
 #include "include/grid.def"
     return list;

@@ -11,9 +11,7 @@
 namespace grid {
 
 enum class Lane { f32, f64, i32, u32, i64, u64 };
-constexpr size_t size_of(Lane lane) {
-    return lane == Lane::f64 || lane == Lane::i64 || lane == Lane::u64 ? 8 : 4;
-}
+constexpr size_t size_of(Lane lane) { return lane == Lane::f64 || lane == Lane::i64 || lane == Lane::u64 ? 8 : 4; }
 
 inline constexpr std::array<int, 6> widths = {1, 2, 3, 4, 8, 16};
 // Lanes that a vector has room for: a width-3 vector is a width-4 image.
@@ -29,7 +27,7 @@ struct Family {
     double bound;  // ulp, from the grid
     std::vector<Lane> operands, results;
     bool second_through_pointer;
-    std::array<Call, 6> calls;          // by index in `widths`
+    std::array<Call, 6> calls;           // by index in `widths`
     std::array<std::string, 6> exports;  // their names
 
     Call call(int width) const;

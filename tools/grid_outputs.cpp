@@ -79,10 +79,10 @@ const std::map<string, string> opencl_roundings = {{"rtn", "_rte"}, {"rtz", "_rt
 Operation operation_of(const Family& family) {
     if (auto found = conversions.find(family.base); found != conversions.end()) {
         const Conversion& c = found->second;
-        string integer = integer_types.at(c.integer);
-        return {"convert", c.to_integer ? "x as " + integer + ", rounded " + roundings.at(c.rounding)
-                                        : "x, of " + integer + " lanes, as floating, rounded " +
-                                              roundings.at(c.rounding)};
+        const string& integer = integer_types.at(c.integer);
+        return {"convert", c.to_integer
+                               ? "x as " + integer + ", rounded " + roundings.at(c.rounding)
+                               : "x, of " + integer + " lanes, as floating, rounded " + roundings.at(c.rounding)};
     }
     if (auto found = operations.find(family.base); found != operations.end()) return found->second;
     std::fprintf(stderr, "no OPERATION for %s\n", family.base.c_str());
@@ -154,8 +154,8 @@ std::vector<string> operand_names(const Family& family) {
 string declaration(const Family& family, int width) {
     Signature s = signature_of(family);
     std::vector<string> names = operand_names(family);
-    string text = s.pair ? width == 1 ? s.result + "2" : s.result + std::to_string(width) + "_pair"
-                         : vector(s.result, width);
+    string text =
+        s.pair ? width == 1 ? s.result + "2" : s.result + std::to_string(width) + "_pair" : vector(s.result, width);
     text += " " + family.export_name(width) + "(";
     for (size_t i = 0; i < s.operands.size(); ++i)
         text += (i ? ", " : "") + vector(s.operands[i], width) + " " + names[i];
@@ -223,7 +223,8 @@ void print_header() {
         "#define OCL_ZORV_V8_H\n"
         "\n"
         "#if !defined(__clang__) || !defined(__i386__) || !defined(__SSE2__)\n"
-        "#error \"ocl_zorv_v8.h needs clang with -m32 -msse2: the functions follow its convention for vector operands\"\n"
+        "#error \"ocl_zorv_v8.h needs clang with -m32 -msse2: the functions follow its convention for vector "
+        "operands\"\n"
         "#endif\n"
         "\n"
         "#ifdef __OPENCL_VERSION__\n"

@@ -39,11 +39,11 @@ class Real {
     mpfr_t value_;
 };
 
-#define TABLES_BINARY(symbol, function)               \
+#define TABLES_BINARY(symbol, function)                         \
     inline Real operator symbol(const Real& a, const Real& b) { \
-        Real result;                                  \
-        function(result.get(), a.get(), b.get(), MPFR_RNDN); \
-        return result;                                \
+        Real result;                                            \
+        function(result.get(), a.get(), b.get(), MPFR_RNDN);    \
+        return result;                                          \
     }
 TABLES_BINARY(+, mpfr_add)
 TABLES_BINARY(-, mpfr_sub)
@@ -51,11 +51,11 @@ TABLES_BINARY(*, mpfr_mul)
 TABLES_BINARY(/, mpfr_div)
 #undef TABLES_BINARY
 
-#define TABLES_UNARY(name, function)                         \
-    inline Real name(const Real& x) {                        \
-        Real result;                                         \
-        function(result.get(), x.get(), MPFR_RNDN);          \
-        return result;                                       \
+#define TABLES_UNARY(name, function)                \
+    inline Real name(const Real& x) {               \
+        Real result;                                \
+        function(result.get(), x.get(), MPFR_RNDN); \
+        return result;                              \
     }
 TABLES_UNARY(sqrt, mpfr_sqrt)
 TABLES_UNARY(rsqrt, mpfr_rec_sqrt)
