@@ -303,7 +303,8 @@ struct LeavesItsSlot {
 };
 TEST(Frame, UnwrittenSlotKeepsTheMainValue) {
     F4 result = Frame<LeavesItsSlot, 4>::call(F4{1, -2, 3, -4});
-    for (int lane = 0; lane < 4; ++lane) EXPECT_EQ((lane % 2 ? -3.0f : 3.0f) * static_cast<float>(lane + 1), result[lane]);
+    for (int lane = 0; lane < 4; ++lane)
+        EXPECT_EQ((lane % 2 ? -3.0f : 3.0f) * static_cast<float>(lane + 1), result[lane]);
 }
 
 // Fills: 0.75 for floating operands, 1 for integers, what the kernel says for its first operand.
@@ -323,7 +324,8 @@ TEST(Frame, FillLanes) {
     EXPECT_EQ(7.0f, first[2]);
     EXPECT_EQ(3, second[2]);
     Vector<double, 3> y;
-    auto x = Frame<TwoFillsSeen, 3>::call_with_pointer(Vector<double, 3>{1, 2, 3, -1}, Vector<double, 3>{4, 5, 6, 0}, &y);
+    auto x =
+        Frame<TwoFillsSeen, 3>::call_with_pointer(Vector<double, 3>{1, 2, 3, -1}, Vector<double, 3>{4, 5, 6, 0}, &y);
     EXPECT_EQ(0.75, x[3]);
     EXPECT_EQ(0.75, y[3]);
     EXPECT_EQ(6.0, y[2]);
@@ -391,8 +393,10 @@ TEST(Frame, ConversionsBetweenLaneSizes) {
     expect_converted_at_all_widths<SignExtend, float, int64_t>(-1);
 }
 TEST(Frame, NanCodes) {
-    auto bits_of = [](auto lane) { return sizeof lane == 4 ? __builtin_bit_cast(uint32_t, static_cast<float>(lane))
-                                                           : __builtin_bit_cast(uint64_t, static_cast<double>(lane)); };
+    auto bits_of = [](auto lane) {
+        return sizeof lane == 4 ? __builtin_bit_cast(uint32_t, static_cast<float>(lane))
+                                : __builtin_bit_cast(uint64_t, static_cast<double>(lane));
+    };
     EXPECT_EQ(5u, bits_of(Frame<CodeF, 4>::call(U4{1, 2, 3, 5})[3]));
     EXPECT_EQ(0u, bits_of(Frame<CodeF, 3>::call(U4{1, 2, 3, 5})[3]));
     EXPECT_EQ(0u, bits_of(Frame<Code, 3>::call(Vector<uint64_t, 3>(0x500000000))[3]));

@@ -92,8 +92,8 @@ TEST_P(EveryFamily, ARareLaneDisturbsNoNeighbour) {
                         for (size_t lane = 0; lane < lanes; ++lane)
                             if (lane != rare_lane) {
                                 ASSERT_EQ(calm[i][lane], results[i][lane])
-                                    << family.export_name(width) << ": lane " << lane << " beside "
-                                    << std::hex << special << " in lane " << rare_lane;
+                                    << family.export_name(width) << ": lane " << lane << " beside " << std::hex
+                                    << special << " in lane " << rare_lane;
                             }
                 }
     }

@@ -23,8 +23,8 @@ TEST(Quotients, AreTheHardwareDivide) {
                          {{minus_inf}, {minus_zero}},
                          {{nan}, {nan}},
                          {{0x7f800001}, {0x7fc00001}},
-                         {{0x40400000}, {0x3eaaaaab}},    // 1/3
-                         {{0x7f000000}, {0x00400000}},    // 2^-127, subnormal
+                         {{0x40400000}, {0x3eaaaaab}},  // 1/3
+                         {{0x7f000000}, {0x00400000}},  // 2^-127, subnormal
                          {{0x00000001}, {inf}}});
     expect_rows("inv", {{{zero_d}, {inf_d}},
                         {{minus_zero_d}, {minus_inf_d}},
@@ -56,16 +56,15 @@ TEST(Quotients, BatchedReciprocalKeepsItsSpecialLanes) {
         };
         EXPECT_EQ(0x1p1023, at(0.0));
         EXPECT_EQ(-0x1p1023, at(-0.0));
-        EXPECT_EQ(0x1p1023 / 1.5, at(0x1p-1023));                // a subnormal's field taken as 1.5
-        EXPECT_EQ(pattern(0.0), pattern(at(0x1p1023)));          // the top binade has no reciprocal scale
+        EXPECT_EQ(0x1p1023 / 1.5, at(0x1p-1023));        // a subnormal's field taken as 1.5
+        EXPECT_EQ(pattern(0.0), pattern(at(0x1p1023)));  // the top binade has no reciprocal scale
         EXPECT_EQ(pattern(-0.0), pattern(at(-0x1.8p1023)));
-        EXPECT_EQ(as_double(inf_d), at(as_double(inf_d)));       // not zero
+        EXPECT_EQ(as_double(inf_d), at(as_double(inf_d)));  // not zero
         EXPECT_EQ(as_double(minus_inf_d), at(as_double(minus_inf_d)));
         EXPECT_EQ(as_double(minus_inf_d), at(as_double(default_nan_d)));
         EXPECT_EQ(0x1p-1022, at(0x1p1022));
         auto quotient = [&](double x, double y) {
-            return as_double(
-                harness::call_uniform(harness::family("div_native"), width, {pattern(x), pattern(y)})[0]);
+            return as_double(harness::call_uniform(harness::family("div_native"), width, {pattern(x), pattern(y)})[0]);
         };
         EXPECT_EQ(0x1p1023, quotient(1.0, 0.0));
         EXPECT_EQ(as_double(inf_d), quotient(2.0, 0.0));
@@ -99,8 +98,8 @@ TEST(Quotients, BatchOrderIsUnitsOfFour) {
 
 // At widths 2, 3 and 4 the double native families are the plain divide.
 TEST(Quotients, NarrowNativeDoublesDivide) {
-    expect_rows("inv_native",
-                {{{zero_d}, {inf_d}}, {{inf_d}, {zero_d}}, {{0x4008000000000000}, {0x3fd5555555555555}}}, {2, 3, 4});
+    expect_rows("inv_native", {{{zero_d}, {inf_d}}, {{inf_d}, {zero_d}}, {{0x4008000000000000}, {0x3fd5555555555555}}},
+                {2, 3, 4});
     expect_rows("div_native", {{{one_d, minus_zero_d}, {minus_inf_d}}, {{zero_d, zero_d}, {default_nan_d}}}, {2, 3, 4});
 }
 
@@ -130,10 +129,10 @@ TEST(SquareRoots, SpecialOperands) {
                                       {{0x80000001}, {default_nan}},
                                       {{0x7f800001}, {0x7fc00001}},
                                       {{0xffc00123}, {0xffc00123}},
-                                      {{0x00000001}, {0x1a3504f3}},    // 2^-74.5
-                                      {{0x00000002}, {0x1a800000}},    // 2^-74
-                                      {{0x00400000}, {0x1fb504f3}},    // 2^-63.5
-                                      {{0x00200000}, {0x1f800000}}};   // 2^-64
+                                      {{0x00000001}, {0x1a3504f3}},   // 2^-74.5
+                                      {{0x00000002}, {0x1a800000}},   // 2^-74
+                                      {{0x00400000}, {0x1fb504f3}},   // 2^-63.5
+                                      {{0x00200000}, {0x1f800000}}};  // 2^-64
     expect_rows("sqrtf", rows);
     expect_rows("sqrtf_native", rows);
     for (const char* name : {"sqrt", "sqrt_native"})
@@ -153,9 +152,9 @@ TEST(SquareRoots, ReciprocalsOfSpecialOperands) {
                            {{minus_inf}, {default_nan}},
                            {{minus_one}, {default_nan}},
                            {{nan}, {nan}},
-                           {{0x00000001}, {0x64b504f3}},     // 2^74.5
+                           {{0x00000001}, {0x64b504f3}},                            // 2^74.5
                            {{0x00000004}, {0x64000000 + 0x00b504f3 - 0x00800000}},  // 2^73.5
-                           {{0x00400000}, {0x5f3504f3}}});   // 2^63.5
+                           {{0x00400000}, {0x5f3504f3}}});                          // 2^63.5
     expect_rows("rsqrt", {{{zero_d}, {inf_d}},
                           {{minus_zero_d}, {minus_inf_d}},
                           {{inf_d}, {zero_d}},
