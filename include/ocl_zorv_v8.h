@@ -14,7 +14,7 @@
 #error "ocl_zorv_v8.h needs clang with -m32 -msse2: the functions follow its convention for vector operands"
 #endif
 
-#ifdef __OPENCL_VERSION__
+#ifdef __OPENCL_C_VERSION__
 #pragma OPENCL EXTENSION cl_khr_fp64 : enable
 #else
 typedef float float2 __attribute__((ext_vector_type(2)));

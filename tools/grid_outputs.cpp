@@ -4,6 +4,7 @@
 //   grid_outputs builtins        include/ocl_zorv_v8_builtins.h
 //   grid_outputs version_script  the linker's list of exports
 //   grid_outputs families        the README's table
+#include <algorithm>
 #include <cstdio>
 #include <cstdlib>
 #include <cstring>
@@ -33,7 +34,7 @@ const std::vector<Family> families = {
 #include "include/grid.def"
 };
 
-const int planned =
+const int planned = 0
 #define PLANNED(base, precision, class_, signature) +1
 #include "include/grid.def"
     ;
@@ -227,7 +228,7 @@ void print_header() {
         "operands\"\n"
         "#endif\n"
         "\n"
-        "#ifdef __OPENCL_VERSION__\n"
+        "#ifdef __OPENCL_C_VERSION__\n"
         "#pragma OPENCL EXTENSION cl_khr_fp64 : enable\n"
         "#else");
     struct Lane {
@@ -267,6 +268,7 @@ string builtin_name(const Family& family) {
         return opencl_roundings.at(c.rounding);
     }
     string name = operation_of(family).builtin;
+    if (name == "none" || signature_of(family).pair) return "none";
     if (family.accuracy_class == "native") return "native_" + name;
     return name == "recip" || name == "divide" ? "none" : name;  // these are operators in the accurate class
 }
@@ -330,6 +332,78 @@ void print_conversion(const Family& family, const Conversion& c, int width) {
                     call.c_str());
 }
 
+// An overload hides the compiler's own ones of the same name, so a convert_ name that the library takes over gets
+// its other source types here as well. They are exact or the hardware's own conversion.
+void print_other_conversions() {
+    std::map<string, bool> targets;  // by lane: is it an integer
+    for (const Family& family : families)
+        if (auto found = conversions.find(family.base); found != conversions.end())
+            targets[signature_of(family).result] = found->second.to_integer;
+    if (targets.empty()) return;
+
+    std::puts(
+        "\n/* The same names from the other types, which take no call. */\n"
+        "#define ROUNDINGS(name, to, from, value) \\\n"
+        "    OVERLOAD to name(from x) { return value; } \\\n"
+        "    OVERLOAD to name##_rte(from x) { return value; } \\\n"
+        "    OVERLOAD to name##_rtz(from x) { return value; } \\\n"
+        "    OVERLOAD to name##_rtp(from x) { return value; } \\\n"
+        "    OVERLOAD to name##_rtn(from x) { return value; }\n"
+        "#define NEAREST(name, to, from, value) \\\n"
+        "    OVERLOAD to name(from x) { return value; } \\\n"
+        "    OVERLOAD to name##_rte(from x) { return value; }\n"
+        "#define PLAIN(to, from) ROUNDINGS(convert_##to, to, from, __builtin_convertvector(x, to))\n"
+        "#define ROUNDED(to, from) NEAREST(convert_##to, to, from, __builtin_convertvector(x, to))\n"
+        "#define SCALAR_PLAIN(to, from) ROUNDINGS(convert_##to, to, from, (to)x)\n"
+        "#define SCALAR_ROUNDED(to, from) NEAREST(convert_##to, to, from, (to)x)\n"
+        "#define CLAMPED(low, high) (x < low ? low : x > high ? high : x)\n"
+        "#define SATURATED(to, from, low, high) \\\n"
+        "    ROUNDINGS(convert_##to##_sat, to, from, __builtin_convertvector(CLAMPED((from)(low), (from)(high)), to))\n"
+        "#define SCALAR_SATURATED(to, from, low, high) \\\n"
+        "    ROUNDINGS(convert_##to##_sat, to, from, (to)CLAMPED((from)(low), (from)(high)))\n"
+        "#define WIDTHS(kind, to, from, ...) \\\n"
+        "    SCALAR_##kind(to, from, ##__VA_ARGS__) \\\n"
+        "    kind(to##2, from##2, ##__VA_ARGS__) \\\n"
+        "    kind(to##3, from##3, ##__VA_ARGS__) \\\n"
+        "    kind(to##4, from##4, ##__VA_ARGS__) \\\n"
+        "    kind(to##8, from##8, ##__VA_ARGS__) \\\n"
+        "    kind(to##16, from##16, ##__VA_ARGS__)");
+    struct Integer {
+        string name, upper;
+        int size;
+        bool is_signed;
+
+        string lowest() const { return is_signed ? upper + "_MIN" : "0"; }
+    };
+    const std::vector<Integer> integers = {{"char", "CHAR", 1, true},  {"uchar", "UCHAR", 1, false},
+                                           {"short", "SHRT", 2, true}, {"ushort", "USHRT", 2, false},
+                                           {"int", "INT", 4, true},    {"uint", "UINT", 4, false},
+                                           {"long", "LONG", 8, true},  {"ulong", "ULONG", 8, false}};
+    for (const auto& [target, is_integer] : targets) {
+        for (const Integer& from : integers)
+            if (is_integer || from.size < 4) std::printf("WIDTHS(PLAIN, %s, %s)\n", target.c_str(), from.name.c_str());
+        if (!is_integer) {
+            std::printf("WIDTHS(PLAIN, %s, %s)\n", target.c_str(), target.c_str());
+            std::puts(target == "float" ? "WIDTHS(ROUNDED, float, double)" : "WIDTHS(PLAIN, double, float)");
+            continue;
+        }
+        const Integer& to = *std::find_if(integers.begin(), integers.end(),
+                                          [&name = target](const Integer& one) { return one.name == name; });
+        for (const Integer& from : integers) {
+            // The greater of the two lowest values, the lesser of the two highest.
+            const Integer& narrower = to.size < from.size ? to : from;
+            string low = to.is_signed && from.is_signed ? narrower.lowest() : "0";
+            bool target_reaches_higher =
+                to.size > from.size || (to.size == from.size && (!to.is_signed || from.is_signed));
+            string high = (target_reaches_higher ? from : to).upper + "_MAX";
+            std::printf("WIDTHS(SATURATED, %s, %s, %s, %s)\n", to.name.c_str(), from.name.c_str(), low.c_str(),
+                        high.c_str());
+        }
+    }
+    std::puts("#undef ROUNDINGS\n#undef NEAREST\n#undef PLAIN\n#undef ROUNDED\n#undef SCALAR_PLAIN\n"
+              "#undef SCALAR_ROUNDED\n#undef CLAMPED\n#undef SATURATED\n#undef SCALAR_SATURATED\n#undef WIDTHS");
+}
+
 void print_builtins() {
     std::puts(
         "/* OpenCL C built-ins as overloads that call the library: include this before a kernel, and the kernel needs\n"
@@ -356,6 +430,7 @@ void print_builtins() {
                 print_conversion(family, conversion->second, width);
         }
     }
+    print_other_conversions();
     std::puts("\n#undef OVERLOAD\n\n#endif");
 }
 
