@@ -93,14 +93,30 @@ void describe(Family& family, Result (*)(Operands...)) {
 #define TEXT(name) TEXT_(name)
 #define TEXT_(name) #name
 #define EXPORT(base, precision, class_, width) PASTE5(__ocl_zorv_v8_, base, LETTER_##precision, width, CLASS_##class_)
+#ifdef GRID_CALLS_THROUGH_OPENCL
+// The calls made by an object compiled from OpenCL C, in place of the ones made here.
+#define OPENCL(base, precision, class_, width) PASTE5(opencl_, base, LETTER_##precision, width, CLASS_##class_)
+#define THUNK(base, precision, class_, width, pair) OPENCL(base, precision, class_, width)
+#define DECLARE(base, precision, class_, width) \
+    extern "C" void OPENCL(base, precision, class_, width)(const void* const*, void* const*);
+#define FAMILY(base, precision, class_, signature, home, bound) \
+    DECLARE(base, precision, class_, 1)                         \
+    DECLARE(base, precision, class_, 2)                         \
+    DECLARE(base, precision, class_, 3)                         \
+    DECLARE(base, precision, class_, 4)                         \
+    DECLARE(base, precision, class_, 8)                         \
+    DECLARE(base, precision, class_, 16)
+#include "include/grid.def"
+#else
 #define THUNK(base, precision, class_, width, pair) \
     thunk<EXPORT(base, precision, class_, width), pair>(&EXPORT(base, precision, class_, width))
+#endif
 
 std::vector<Family> make_families() {
     std::vector<Family> list;
 #define FAMILY(base, precision, class_, signature, home, bound)                                                  \
     {                                                                                                            \
-        constexpr bool pair = std::string_view(#signature) == "pair_result";                                     \
+        [[maybe_unused]] constexpr bool pair = std::string_view(#signature) == "pair_result";                    \
         Family family = {TEXT(PASTE5(base, LETTER_##precision, CLASS_##class_, , )),                             \
                          #base,                                                                                  \
                          #signature,                                                                             \
