@@ -68,8 +68,8 @@ double Worst::add(double error) {
 
 bool Worst::report() const {
     bool good = worst_ <= allowed_;
-    std::printf("  %-44s worst error %8.4g ulp, at most %8.4g allowed: %s\n", what_.c_str(), worst_, allowed_,
-                good ? "good" : "WRONG");
+    std::printf("  %-40s worst error %9.4g %s, at most %.4g allowed: %s\n", what_.c_str(), worst_, unit_.c_str(),
+                allowed_, good ? "good" : "WRONG");
     return good;
 }
 

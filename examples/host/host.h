@@ -34,16 +34,17 @@ std::vector<Vector> column_as(const std::vector<std::vector<double>>& table, siz
 double ulps(float value, long double exact);
 double ulps(double value, long double exact);
 
-// The worst error of one quantity, and what it may be.
+// The worst error of one quantity, and how large it may be.
 class Worst {
   public:
-    Worst(std::string what, double allowed) : what_(std::move(what)), allowed_(allowed) {}
+    Worst(std::string what, double allowed, std::string unit = "ulp")
+        : what_(std::move(what)), unit_(std::move(unit)), allowed_(allowed) {}
     double add(double error);
     // Prints a line; false if the error was larger than allowed.
     bool report() const;
 
   private:
-    std::string what_;
+    std::string what_, unit_;
     double allowed_, worst_ = 0;
 };
 
