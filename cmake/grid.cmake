@@ -21,9 +21,9 @@ add_custom_target(headers
 # The names of the families that stand, known while configuring: the grid is preprocessed and read.
 function(standing_families result)
   set_property(DIRECTORY APPEND PROPERTY CMAKE_CONFIGURE_DEPENDS
-    ${PROJECT_SOURCE_DIR}/include/grid.def ${PROJECT_SOURCE_DIR}/cmake/standing_families.h)
+    ${PROJECT_SOURCE_DIR}/include/grid.def ${PROJECT_SOURCE_DIR}/cmake/standing_families.def)
   execute_process(
-    COMMAND ${CMAKE_CXX_COMPILER} -E -P -x c++ -I ${PROJECT_SOURCE_DIR} ${PROJECT_SOURCE_DIR}/cmake/standing_families.h
+    COMMAND ${CMAKE_CXX_COMPILER} -E -P -x c++ -I ${PROJECT_SOURCE_DIR} ${PROJECT_SOURCE_DIR}/cmake/standing_families.def
     OUTPUT_VARIABLE rows COMMAND_ERROR_IS_FATAL ANY)
   string(REGEX MATCHALL "standing:[^;]+" rows "${rows}")
   set(names "")

@@ -5,6 +5,8 @@ add_library(ocl_zorv_v8 SHARED ${library_sources})
 target_include_directories(ocl_zorv_v8
   PRIVATE ${PROJECT_SOURCE_DIR}
   INTERFACE $<BUILD_INTERFACE:${PROJECT_SOURCE_DIR}/include> $<INSTALL_INTERFACE:${CMAKE_INSTALL_INCLUDEDIR}>)
+# Vector operands travel in vector registers only where the caller's compiler may use them.
+target_compile_options(ocl_zorv_v8 INTERFACE $<INSTALL_INTERFACE:-msse2>)
 target_compile_options(ocl_zorv_v8 PRIVATE
   -fPIC -fvisibility=hidden -fno-exceptions -fno-rtti -fno-stack-protector -Wconversion -Wno-sign-conversion)
 target_link_options(ocl_zorv_v8 PRIVATE
