@@ -1,0 +1,65 @@
+// Gathers: one value of a table for each lane. The offsets leave the unit by pextrw, one for each lane, never
+// through memory: a store of the unit and narrow loads behind it would stand on the dependency chain. The values
+// come by scalar loads and are merged by unpacking.
+//
+//   LaneOffsets at = offsets_of(index << 4);            rows of 16 bytes, four columns
+//   F4 head = gather(&data.table[0].head, at);
+//   F4 tail = gather(&data.table[0].tail, at);
+//
+// In tables of single floats the address scales the index: gather_indexed(data.table, offsets_of(index)).
+#pragma once
+
+#include "frame/units.h"
+
+namespace zorv {
+
+// The offset (or index) of each lane in a general register.
+struct LaneOffsets {
+    uint32_t lane[4];
+};
+struct LaneOffsets2 {
+    uint32_t lane[2];
+};
+
+// Lanes that hold 0 to 65,535: the low word is the whole value.
+inline LaneOffsets offsets_of(I4 lanes) {
+    __m128i unit = reinterpret_cast<__m128i>(lanes);
+    return {{static_cast<uint32_t>(_mm_extract_epi16(unit, 0)), static_cast<uint32_t>(_mm_extract_epi16(unit, 2)),
+             static_cast<uint32_t>(_mm_extract_epi16(unit, 4)), static_cast<uint32_t>(_mm_extract_epi16(unit, 6))}};
+}
+inline LaneOffsets2 offsets_of(L2 lanes) {
+    __m128i unit = reinterpret_cast<__m128i>(lanes);
+    return {{static_cast<uint32_t>(_mm_extract_epi16(unit, 0)), static_cast<uint32_t>(_mm_extract_epi16(unit, 4))}};
+}
+
+template <class Lane>
+inline Lane load_at(const Lane* column, uint32_t offset) {
+    return *reinterpret_cast<const Lane*>(reinterpret_cast<const char*>(column) + offset);
+}
+
+// The lane's value of a column that begins at `column`, by byte offsets of rows.
+template <class Lane>
+inline Vector<Lane, 4> gather(const Lane* column, LaneOffsets at) {
+    static_assert(sizeof(Lane) == 4);
+    return {load_at(column, at.lane[0]), load_at(column, at.lane[1]), load_at(column, at.lane[2]),
+            load_at(column, at.lane[3])};
+}
+template <class Lane>
+inline Vector<Lane, 2> gather(const Lane* column, LaneOffsets2 at) {
+    static_assert(sizeof(Lane) == 8);
+    return {load_at(column, at.lane[0]), load_at(column, at.lane[1])};
+}
+
+// The same by index, in a table of nothing but this column: no shift for the offset.
+template <class Lane>
+inline Vector<Lane, 4> gather_indexed(const Lane* table, LaneOffsets index) {
+    static_assert(sizeof(Lane) == 4);
+    return {table[index.lane[0]], table[index.lane[1]], table[index.lane[2]], table[index.lane[3]]};
+}
+template <class Lane>
+inline Vector<Lane, 2> gather_indexed(const Lane* table, LaneOffsets2 index) {
+    static_assert(sizeof(Lane) == 8);
+    return {table[index.lane[0]], table[index.lane[1]]};
+}
+
+}  // namespace zorv
