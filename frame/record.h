@@ -63,6 +63,14 @@ struct alignas(64) Slot : PackedSlot<Lane> {
     uint32_t zero_[8] = {};
 };
 
+// One constant of a rare routine, by its bit pattern: in its natural form, not repeated.
+template <class Lane>
+struct Scalar {
+    typename PatternOf<Lane>::type pattern;
+
+    operator Lane() const { return __builtin_bit_cast(Lane, pattern); }
+};
+
 // The record under an address that the compiler has just learnt. A main path takes its record through this, once:
 // the units of one call then share no constants in registers, of which there are eight and which would spill;
 // each constant is a memory operand where it is used.
