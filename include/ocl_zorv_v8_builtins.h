@@ -106,6 +106,102 @@ OVERLOAD double4 native_rsqrt(double4 x) { return __ocl_zorv_v8_rsqrt4_native(x)
 OVERLOAD double8 native_rsqrt(double8 x) { return __ocl_zorv_v8_rsqrt8_native(x); }
 OVERLOAD double16 native_rsqrt(double16 x) { return __ocl_zorv_v8_rsqrt16_native(x); }
 
+/* expf */
+OVERLOAD float exp(float x) { return __ocl_zorv_v8_expf1(x); }
+OVERLOAD float2 exp(float2 x) { return __ocl_zorv_v8_expf2(x); }
+OVERLOAD float3 exp(float3 x) { return (__ocl_zorv_v8_expf3(x.xyzz)).xyz; }
+OVERLOAD float4 exp(float4 x) { return __ocl_zorv_v8_expf4(x); }
+OVERLOAD float8 exp(float8 x) { return __ocl_zorv_v8_expf8(x); }
+OVERLOAD float16 exp(float16 x) { return __ocl_zorv_v8_expf16(x); }
+
+/* expf_native */
+OVERLOAD float native_exp(float x) { return __ocl_zorv_v8_expf1_native(x); }
+OVERLOAD float2 native_exp(float2 x) { return __ocl_zorv_v8_expf2_native(x); }
+OVERLOAD float3 native_exp(float3 x) { return (__ocl_zorv_v8_expf3_native(x.xyzz)).xyz; }
+OVERLOAD float4 native_exp(float4 x) { return __ocl_zorv_v8_expf4_native(x); }
+OVERLOAD float8 native_exp(float8 x) { return __ocl_zorv_v8_expf8_native(x); }
+OVERLOAD float16 native_exp(float16 x) { return __ocl_zorv_v8_expf16_native(x); }
+
+/* exp2f */
+OVERLOAD float exp2(float x) { return __ocl_zorv_v8_exp2f1(x); }
+OVERLOAD float2 exp2(float2 x) { return __ocl_zorv_v8_exp2f2(x); }
+OVERLOAD float3 exp2(float3 x) { return (__ocl_zorv_v8_exp2f3(x.xyzz)).xyz; }
+OVERLOAD float4 exp2(float4 x) { return __ocl_zorv_v8_exp2f4(x); }
+OVERLOAD float8 exp2(float8 x) { return __ocl_zorv_v8_exp2f8(x); }
+OVERLOAD float16 exp2(float16 x) { return __ocl_zorv_v8_exp2f16(x); }
+
+/* exp2f_native */
+OVERLOAD float native_exp2(float x) { return __ocl_zorv_v8_exp2f1_native(x); }
+OVERLOAD float2 native_exp2(float2 x) { return __ocl_zorv_v8_exp2f2_native(x); }
+OVERLOAD float3 native_exp2(float3 x) { return (__ocl_zorv_v8_exp2f3_native(x.xyzz)).xyz; }
+OVERLOAD float4 native_exp2(float4 x) { return __ocl_zorv_v8_exp2f4_native(x); }
+OVERLOAD float8 native_exp2(float8 x) { return __ocl_zorv_v8_exp2f8_native(x); }
+OVERLOAD float16 native_exp2(float16 x) { return __ocl_zorv_v8_exp2f16_native(x); }
+
+/* exp10f */
+OVERLOAD float exp10(float x) { return __ocl_zorv_v8_exp10f1(x); }
+OVERLOAD float2 exp10(float2 x) { return __ocl_zorv_v8_exp10f2(x); }
+OVERLOAD float3 exp10(float3 x) { return (__ocl_zorv_v8_exp10f3(x.xyzz)).xyz; }
+OVERLOAD float4 exp10(float4 x) { return __ocl_zorv_v8_exp10f4(x); }
+OVERLOAD float8 exp10(float8 x) { return __ocl_zorv_v8_exp10f8(x); }
+OVERLOAD float16 exp10(float16 x) { return __ocl_zorv_v8_exp10f16(x); }
+
+/* exp10f_native */
+OVERLOAD float native_exp10(float x) { return __ocl_zorv_v8_exp10f1_native(x); }
+OVERLOAD float2 native_exp10(float2 x) { return __ocl_zorv_v8_exp10f2_native(x); }
+OVERLOAD float3 native_exp10(float3 x) { return (__ocl_zorv_v8_exp10f3_native(x.xyzz)).xyz; }
+OVERLOAD float4 native_exp10(float4 x) { return __ocl_zorv_v8_exp10f4_native(x); }
+OVERLOAD float8 native_exp10(float8 x) { return __ocl_zorv_v8_exp10f8_native(x); }
+OVERLOAD float16 native_exp10(float16 x) { return __ocl_zorv_v8_exp10f16_native(x); }
+
+/* logf */
+OVERLOAD float log(float x) { return __ocl_zorv_v8_logf1(x); }
+OVERLOAD float2 log(float2 x) { return __ocl_zorv_v8_logf2(x); }
+OVERLOAD float3 log(float3 x) { return (__ocl_zorv_v8_logf3(x.xyzz)).xyz; }
+OVERLOAD float4 log(float4 x) { return __ocl_zorv_v8_logf4(x); }
+OVERLOAD float8 log(float8 x) { return __ocl_zorv_v8_logf8(x); }
+OVERLOAD float16 log(float16 x) { return __ocl_zorv_v8_logf16(x); }
+
+/* logf_native */
+OVERLOAD float native_log(float x) { return __ocl_zorv_v8_logf1_native(x); }
+OVERLOAD float2 native_log(float2 x) { return __ocl_zorv_v8_logf2_native(x); }
+OVERLOAD float3 native_log(float3 x) { return (__ocl_zorv_v8_logf3_native(x.xyzz)).xyz; }
+OVERLOAD float4 native_log(float4 x) { return __ocl_zorv_v8_logf4_native(x); }
+OVERLOAD float8 native_log(float8 x) { return __ocl_zorv_v8_logf8_native(x); }
+OVERLOAD float16 native_log(float16 x) { return __ocl_zorv_v8_logf16_native(x); }
+
+/* log2f */
+OVERLOAD float log2(float x) { return __ocl_zorv_v8_log2f1(x); }
+OVERLOAD float2 log2(float2 x) { return __ocl_zorv_v8_log2f2(x); }
+OVERLOAD float3 log2(float3 x) { return (__ocl_zorv_v8_log2f3(x.xyzz)).xyz; }
+OVERLOAD float4 log2(float4 x) { return __ocl_zorv_v8_log2f4(x); }
+OVERLOAD float8 log2(float8 x) { return __ocl_zorv_v8_log2f8(x); }
+OVERLOAD float16 log2(float16 x) { return __ocl_zorv_v8_log2f16(x); }
+
+/* log2f_native */
+OVERLOAD float native_log2(float x) { return __ocl_zorv_v8_log2f1_native(x); }
+OVERLOAD float2 native_log2(float2 x) { return __ocl_zorv_v8_log2f2_native(x); }
+OVERLOAD float3 native_log2(float3 x) { return (__ocl_zorv_v8_log2f3_native(x.xyzz)).xyz; }
+OVERLOAD float4 native_log2(float4 x) { return __ocl_zorv_v8_log2f4_native(x); }
+OVERLOAD float8 native_log2(float8 x) { return __ocl_zorv_v8_log2f8_native(x); }
+OVERLOAD float16 native_log2(float16 x) { return __ocl_zorv_v8_log2f16_native(x); }
+
+/* log10f */
+OVERLOAD float log10(float x) { return __ocl_zorv_v8_log10f1(x); }
+OVERLOAD float2 log10(float2 x) { return __ocl_zorv_v8_log10f2(x); }
+OVERLOAD float3 log10(float3 x) { return (__ocl_zorv_v8_log10f3(x.xyzz)).xyz; }
+OVERLOAD float4 log10(float4 x) { return __ocl_zorv_v8_log10f4(x); }
+OVERLOAD float8 log10(float8 x) { return __ocl_zorv_v8_log10f8(x); }
+OVERLOAD float16 log10(float16 x) { return __ocl_zorv_v8_log10f16(x); }
+
+/* log10f_native */
+OVERLOAD float native_log10(float x) { return __ocl_zorv_v8_log10f1_native(x); }
+OVERLOAD float2 native_log10(float2 x) { return __ocl_zorv_v8_log10f2_native(x); }
+OVERLOAD float3 native_log10(float3 x) { return (__ocl_zorv_v8_log10f3_native(x.xyzz)).xyz; }
+OVERLOAD float4 native_log10(float4 x) { return __ocl_zorv_v8_log10f4_native(x); }
+OVERLOAD float8 native_log10(float8 x) { return __ocl_zorv_v8_log10f8_native(x); }
+OVERLOAD float16 native_log10(float16 x) { return __ocl_zorv_v8_log10f16_native(x); }
+
 #undef OVERLOAD
 
 #endif

@@ -1,0 +1,135 @@
+// Constants of the single precision exponentials and logarithms.
+#pragma once
+
+#include "frame/record.h"
+
+namespace zorv {
+
+// ---- Exponentials. -----------------------------------------------------------------------------------------
+
+struct ExpfData {
+    Slot<float> log2_e, shifter, ln2_high, ln2_low;
+    Slot<float> c5, c4, c3, c2, c1, c0;
+    Slot<int32_t> magnitude, last_ordinary;
+};
+struct Exp2fData {
+    Slot<float> shifter;
+    Slot<float> c6, c5, c4, c3, c2, c1, c0;
+    Slot<int32_t> magnitude, last_ordinary;
+};
+struct Exp10fData {
+    Slot<float> steps_per_unit, shifter, step_high, step_low;
+    Slot<float> c1, c0;
+    Slot<int32_t> row_index, magnitude, last_ordinary;
+    alignas(64) float powers[512];  // 2^(i/512)
+};
+struct ExpfNativeData {
+    Slot<float> log2_e, shifter, ln2;
+    Slot<float> c3, c2, c1, c0;
+};
+struct Exp2fNativeData {
+    Slot<float> shifter;
+    Slot<float> c3, c2, c1, c0;
+};
+struct Exp10fNativeData {
+    Slot<float> log2_10, shifter;
+    Slot<float> c3, c2, c1, c0;
+};
+
+HIDDEN extern const ExpfData expf_data;
+HIDDEN extern const Exp2fData exp2f_data;
+HIDDEN extern const Exp10fData exp10f_data;
+HIDDEN extern const ExpfNativeData expf_native_data;
+HIDDEN extern const Exp2fNativeData exp2f_native_data;
+HIDDEN extern const Exp10fNativeData exp10f_native_data;
+
+// e^x and 10^x of a rare lane: k = x log2(base), rounded; x - k log(2) in two parts; a polynomial.
+template <int degree>
+struct ExponentialRareData {
+    Scalar<float> last_finite, last_nonzero, last_normal;
+    Scalar<float> log2_base, log_2_high, log_2_low;
+    Scalar<float> c[degree + 1];  // highest first
+};
+struct Exp2fRareData {
+    Scalar<float> last_finite, last_nonzero, last_normal;
+    Scalar<float> c5, c4, c3, c2, c1, c0;
+};
+
+HIDDEN extern const ExponentialRareData<5> expf_rare_data;
+HIDDEN extern const Exp2fRareData exp2f_rare_data;
+HIDDEN extern const ExponentialRareData<6> exp10f_rare_data;
+
+// ---- Logarithms. -------------------------------------------------------------------------------------------
+
+// x = f 2^k with f in [2/3, 4/3).
+struct MantissaSplitData {
+    Slot<int32_t> two_thirds, mantissa;
+    Slot<float> one;
+};
+struct LogfData {
+    MantissaSplitData split;
+    PackedSlot<float> c8, c7, c6, c5, c4, c3, c2, c1, c0;
+    PackedSlot<float> ln2_high, ln2_low;
+    PackedSlot<int32_t> smallest_normal, twice_smallest_normal;
+};
+struct Log2fData {
+    MantissaSplitData split;
+    Slot<float> a1, a0, b1, b0, c1, c0, d1, d0, log2_e;
+    Slot<float> smallest_normal, largest;
+};
+struct Log10fData {
+    MantissaSplitData split;
+    PackedSlot<float> a1, a0, b1, b0, c1, c0, d1, d0, log10_e;
+    PackedSlot<float> log10_2_high, log10_2_low;
+    PackedSlot<float> smallest_normal, largest;
+};
+struct LogfNativeData {
+    MantissaSplitData split;
+    PackedSlot<float> c2, c1, c0, ln2;
+};
+struct Log2fNativeData {
+    MantissaSplitData split;
+    Slot<float> c4, c3, c2, c1, c0;
+};
+struct Log10fNativeData {
+    MantissaSplitData split;
+    PackedSlot<float> c4, c3, c2, c1, c0, log10_2;
+};
+
+HIDDEN extern const LogfData logf_data;
+HIDDEN extern const Log2fData log2f_data;
+HIDDEN extern const Log10fData log10f_data;
+HIDDEN extern const LogfNativeData logf_native_data;
+HIDDEN extern const Log2fNativeData log2f_native_data;
+HIDDEN extern const Log10fNativeData log10f_native_data;
+
+// Row i serves mantissas about 1 + i/64: a short reciprocal, times `unit` in the bases 2 and 10, and minus its
+// logarithm in two parts.
+struct LogRareRow {
+    float c, high, low;
+};
+struct LogfRareData {
+    Scalar<float> subnormal_scale, near_one;
+    Scalar<float> c6, c5, c4, c3, c2, c1, c0;
+    Scalar<float> ln2_high, ln2_low, ln2;
+    LogRareRow rows[65];
+};
+struct Log2fRareData {
+    Scalar<float> subnormal_scale, near_one;
+    Scalar<float> unit;  // 256 log2(e), short
+    Scalar<float> p7, p6, p5, p4, p3, p2, p1, p0;
+    LogRareRow rows[65];
+};
+struct Log10fRareData {
+    Scalar<float> subnormal_scale, near_one;
+    Scalar<float> unit;  // 256 log10(e), short
+    Scalar<float> p7, p6, p5, p4, p3, p2, p1, p0;
+    Scalar<float> log10_2_high, log10_2_low;
+    LogRareRow rows[65];
+};
+
+HIDDEN extern const LogfRareData logf_rare_data;
+HIDDEN extern const Log2fRareData log2f_rare_data;
+HIDDEN extern const Log10fRareData log10f_rare_data;
+
+}  // namespace zorv

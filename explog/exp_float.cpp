@@ -1,0 +1,188 @@
+// e^x, 2^x and 10^x in single precision.
+//
+// All of them take a power of two out of x and leave the rest to a polynomial:
+//
+//   b^x = 2^k P(r),   k = x log2(b) rounded,   r = x - k / log2(b)
+//
+//             steps of k    r                              P
+//   exp       1             k ln(2) in two parts           degree 5
+//   exp2      1             exact                          degree 6
+//   exp10     1/512         k log10(2)/512 in two parts    degree 1, times 2^(i/512) from a table
+//   native    1             one part, or exact             degree 3
+//
+// k comes from the shifter 1.5 * 2^23: the sum v + shifter is v rounded to an integer, which stands in the low bits
+// of the sum's pattern. 2^k is an integer addition to the exponent field of P(r), with no test. The accurate
+// families are exact in that only while the result is a normal number; what lies beyond, infinities and NaN are
+// rare. The native families do not look: a lane out of range wraps, an infinity becomes NaN.
+#include "data/explog_float.h"
+#include "frame/gather.h"
+#include "frame/lane_frame.h"
+
+namespace zorv {
+namespace {
+
+// 2^k p: k, in the low bits of `shifted`, moves to the exponent field; what does not fit there falls off.
+inline F4 times_power_of_two(F4 p, F4 shifted) { return as_float(bits(p) + (bits(shifted) << 23)); }
+
+// Above the last operand of a normal result, on either side; as patterns, so that a NaN is above it too.
+template <class Data>
+I4 not_ordinary(F4 x, const Data& data) {
+    return (bits(x) & data.magnitude) > data.last_ordinary;
+}
+
+// ---- Rare lanes. -------------------------------------------------------------------------------------------
+
+// 2^(field - 127), or zero where the field is zero. Only the low eight bits of the field count.
+float power_of_two(int field) { return __builtin_bit_cast(float, (static_cast<uint32_t>(field) & 255) << 23); }
+
+// k of a sum with the shifter.
+int low_half(float shifted) { return static_cast<int16_t>(__builtin_bit_cast(uint32_t, shifted)); }
+
+constexpr float shifter = 0x1.8p23f;
+
+// A finite operand whose result is finite and not zero: e^x and 10^x.
+template <int degree>
+Status in_range(const ExponentialRareData<degree>& data, float x, float* result) {
+    float t = data.log2_base * x + shifter;
+    float k = t - shifter;
+    float r = (x - k * data.log_2_high) - k * data.log_2_low;
+    int n = low_half(t);
+    float p = data.c[0];
+    for (int i = 1; i <= degree; ++i) p = p * r + data.c[i];
+
+    if (!(x >= data.last_normal)) {  // one rounding, in the last product
+        *result = p * power_of_two(n - 69) * 0x1p-60f;
+        return RARE_UNDERFLOW;
+    }
+    if (static_cast<unsigned>(n + 127) > 254) {  // n = 128: 2^n itself is no float
+        *result = p * power_of_two(n + 126) * 2.0f;
+        return RARE_OK;
+    }
+    *result = p * power_of_two(n + 127);
+    return RARE_OK;
+}
+
+// The same for 2^x.
+Status in_range(const Exp2fRareData& data, float x, float* result) {
+    float t = x + shifter;
+    float r = x - (t - shifter);
+    int n = low_half(t);
+    float p = horner(r, data.c5, data.c4, data.c3, data.c2, data.c1, data.c0);
+
+    if (n < 104) {  // zero for n = -150
+        *result = p * power_of_two(n - 106) * 0x1p-23f;
+        return x < data.last_normal ? RARE_UNDERFLOW : RARE_OK;
+    }
+    *result = p * power_of_two(n) * 0x1p127f;  // infinite for n = 128
+    return RARE_OK;
+}
+
+// Overflow and underflow raise their flags by products that the compiler must not fold.
+template <class Data>
+Status exponential_rare(const Data& data, const float* operand, float* result) {
+    float x = *operand;
+    uint32_t pattern = __builtin_bit_cast(uint32_t, x);
+    if ((pattern & 0x7f800000) == 0x7f800000) {
+        *result = pattern == 0xff800000 ? 0.0f : x * x;
+        return RARE_OK;
+    }
+    if (!(x <= data.last_finite)) {
+        *result = opaque(__FLT_MAX__) * opaque(__FLT_MAX__);
+        return RARE_OVERFLOW;
+    }
+    if (!(x >= data.last_nonzero)) {
+        *result = opaque(__FLT_DENORM_MIN__) * opaque(__FLT_DENORM_MIN__);
+        return RARE_UNDERFLOW;
+    }
+    return in_range(data, x, result);
+}
+
+Status expf_rare(const float* x, float* result) { return exponential_rare(expf_rare_data, x, result); }
+Status exp2f_rare(const float* x, float* result) { return exponential_rare(exp2f_rare_data, x, result); }
+Status exp10f_rare(const float* x, float* result) { return exponential_rare(exp10f_rare_data, x, result); }
+
+// ---- Accurate. ---------------------------------------------------------------------------------------------
+
+struct expf {
+    static Lanes<F4> main(F4 x) {
+        const auto& data = in_memory(expf_data);
+        F4 t = x * data.log2_e + data.shifter;
+        F4 k = t - data.shifter;
+        F4 r = (x - k * data.ln2_high) - k * data.ln2_low;  // the first product is exact: 15 bits times 8
+        F4 p = horner(r, data.c5, data.c4, data.c3, data.c2, data.c1, data.c0);
+        return {times_power_of_two(p, t), not_ordinary(x, data)};
+    }
+    static constexpr auto rare = expf_rare;
+};
+
+struct exp2f {
+    static Lanes<F4> main(F4 x) {
+        const auto& data = in_memory(exp2f_data);
+        F4 t = x + data.shifter;
+        F4 k = t - data.shifter;
+        F4 r = x - k;
+        F4 p = horner(r, data.c6, data.c5, data.c4, data.c3, data.c2, data.c1, data.c0);
+        return {times_power_of_two(p, t), not_ordinary(x, data)};
+    }
+    static constexpr auto rare = exp2f_rare;
+};
+
+//   10^x = 2^(k/512) (1 + P(r)),   k/512 = n + i/512
+struct exp10f {
+    static Lanes<F4> main(F4 x) {
+        const auto& data = in_memory(exp10f_data);
+        F4 t = x * data.steps_per_unit + data.shifter;
+        I4 i = bits(t) & data.row_index;
+        F4 power = gather_indexed(data.powers, offsets_of(i));
+        F4 k = t - data.shifter;
+        F4 r = (x - k * data.step_high) - k * data.step_low;
+        F4 p = r * data.c1 + data.c0;
+        F4 y = p * power + power;
+        I4 n = (bits(t) ^ i) << 14;  // k/512, rounded down, in the exponent field
+        return {as_float(bits(y) + n), not_ordinary(x, data)};
+    }
+    static constexpr auto rare = exp10f_rare;
+};
+
+// ---- Native. -----------------------------------------------------------------------------------------------
+
+struct expf_native {
+    static F4 main(F4 x) {
+        const auto& data = in_memory(expf_native_data);
+        F4 t = x * data.log2_e + data.shifter;
+        F4 k = t - data.shifter;
+        F4 r = x - k * data.ln2;
+        F4 p = horner(r, data.c3, data.c2, data.c1, data.c0);
+        return times_power_of_two(p, t);
+    }
+};
+
+template <class Data>
+F4 exp2f_short(F4 x, const Data& data) {
+    F4 t = x + data.shifter;
+    F4 k = t - data.shifter;
+    F4 r = x - k;
+    F4 p = horner(r, data.c3, data.c2, data.c1, data.c0);
+    return times_power_of_two(p, t);
+}
+
+struct exp2f_native {
+    static F4 main(F4 x) {
+        const auto& data = in_memory(exp2f_native_data);
+        return exp2f_short(x, data);
+    }
+};
+
+// 10^x = 2^(x log2(10)); the error of that one product grows with x.
+struct exp10f_native {
+    static F4 main(F4 x) {
+        const auto& data = in_memory(exp10f_native_data);
+        return exp2f_short(x * data.log2_10, data);
+    }
+};
+
+}  // namespace
+}  // namespace zorv
+
+#define HOME_exp_float , here
+#include "frame/exports.h"
