@@ -364,11 +364,11 @@ class Frame<Kernel, width, Returned (*)(Operands...)> {
         compute(outcome, operands...);
         if constexpr (Result::kind == FrameKind::all_rare) {
             constexpr unsigned every_lane = (1u << (room<width>)) - 1;
-            return repair(operands..., outcome.first, outcome.second, every_lane, deliver);
+            return repair(outcome.first, outcome.second, operands..., every_lane, deliver);
         } else if constexpr (has_mask) {
             unsigned rare_lanes = bit_mask<width>(outcome.rare.step);
             if (__builtin_expect(rare_lanes != 0, 0))
-                return repair(operands..., outcome.first, outcome.second, rare_lanes, deliver);
+                return repair(outcome.first, outcome.second, operands..., rare_lanes, deliver);
         }
         if constexpr (two_results)
             return deliver(put<width>(outcome.first), put<width>(outcome.second));
@@ -485,9 +485,9 @@ class Frame<Kernel, width, Returned (*)(Operands...)> {
     // Operands, results and mask arrive in registers. Whatever needs memory is in here, so the export itself has
     // no frame to align and nothing to spill.
     template <class Delivery>
-    [[gnu::noinline, gnu::cold, gnu::regcall]] static typename Delivery::Type repair(AllSteps<Operands>... operands,
-                                                                                     AllSteps<First> first,
+    [[gnu::noinline, gnu::cold, gnu::regcall]] static typename Delivery::Type repair(AllSteps<First> first,
                                                                                      SecondSteps second,
+                                                                                     AllSteps<Operands>... operands,
                                                                                      unsigned rare_lanes,
                                                                                      Delivery deliver) {
         StagingArea<Lane<First>, width> first_area(put<width>(first));
