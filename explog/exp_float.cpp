@@ -103,6 +103,7 @@ Status exp10f_rare(const float* x, float* result) { return exponential_rare(exp1
 
 // ---- Accurate. ---------------------------------------------------------------------------------------------
 
+// Error 2.94 ulp at most, at -0x1.79109ap+2; rare lanes 2.60 near the top, 1.75 below the normal range.
 struct expf {
     static Lanes<F4> main(F4 x) {
         const auto& data = in_memory(expf_data);
@@ -115,6 +116,7 @@ struct expf {
     static constexpr auto rare = expf_rare;
 };
 
+// Error 1.11 ulp at most, at -0x1.fff59ep-2; rare lanes 2.85 near the top, 1.75 below the normal range.
 struct exp2f {
     static Lanes<F4> main(F4 x) {
         const auto& data = in_memory(exp2f_data);
@@ -128,6 +130,7 @@ struct exp2f {
 };
 
 //   10^x = 2^(k/512) (1 + P(r)),   k/512 = n + i/512
+// Error 2.93 ulp at most, at -0x1.99f216p-26; rare lanes 1.08 near the top, 0.91 below the normal range.
 struct exp10f {
     static Lanes<F4> main(F4 x) {
         const auto& data = in_memory(exp10f_data);
@@ -146,6 +149,7 @@ struct exp10f {
 
 // ---- Native. -----------------------------------------------------------------------------------------------
 
+// Error 1,821 ulp at most in the normal range, at 0x1.21bc4cp+6.
 struct expf_native {
     static F4 main(F4 x) {
         const auto& data = in_memory(expf_native_data);
@@ -166,6 +170,7 @@ F4 exp2f_short(F4 x, const Data& data) {
     return times_power_of_two(p, t);
 }
 
+// Error 1,231 ulp at most in the normal range, at -0x1.84f72p-6.
 struct exp2f_native {
     static F4 main(F4 x) {
         const auto& data = in_memory(exp2f_native_data);
@@ -173,7 +178,8 @@ struct exp2f_native {
     }
 };
 
-// 10^x = 2^(x log2(10)); the error of that one product grows with x.
+// 10^x = 2^(x log2(10)); the error of that one product grows with x: 1,305 ulp at most in the normal range, at
+// 0x1.31ca08p+5.
 struct exp10f_native {
     static F4 main(F4 x) {
         const auto& data = in_memory(exp10f_native_data);

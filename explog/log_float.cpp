@@ -129,6 +129,7 @@ Status log10f_rare(const float* x, float* result) { return logarithm_rare<40>(lo
 
 // ---- Accurate. ---------------------------------------------------------------------------------------------
 
+// Error 0.98 ulp at most, at 0x1.556f9p+0; subnormal operands 1.04.
 struct logf {
     static Lanes<F4> main(F4 x) {
         const auto& data = in_memory(logf_data);
@@ -159,6 +160,7 @@ I4 not_positive_normal(F4 x, const Data& data) {
     return (x < data.smallest_normal) | ~(x <= data.largest);
 }
 
+// Error 2.62 ulp at most, at 0x1.556ceap+0; subnormal operands 0.55.
 struct log2f {
     static Lanes<F4> main(F4 x) {
         const auto& data = in_memory(log2f_data);
@@ -169,6 +171,7 @@ struct log2f {
     static constexpr auto rare = log2f_rare;
 };
 
+// Error 2.63 ulp at most, at 0x1.555cb4p+0; subnormal operands 0.55.
 struct log10f {
     static Lanes<F4> main(F4 x) {
         const auto& data = in_memory(log10f_data);
@@ -181,6 +184,7 @@ struct log10f {
 
 // ---- Native. -----------------------------------------------------------------------------------------------
 
+// Error 8,315 ulp at most, at 0x1.8ebefep-1.
 struct logf_native {
     static F4 main(F4 x) {
         const auto& data = in_memory(logf_native_data);
@@ -191,6 +195,7 @@ struct logf_native {
     }
 };
 
+// Error 894 ulp at most, at 0x1.172b32p+0.
 struct log2f_native {
     static F4 main(F4 x) {
         const auto& data = in_memory(log2f_native_data);
@@ -200,6 +205,7 @@ struct log2f_native {
     }
 };
 
+// Error 996 ulp at most, at 0x1.5555dcp+0.
 struct log10f_native {
     static F4 main(F4 x) {
         const auto& data = in_memory(log10f_native_data);
