@@ -1,0 +1,57 @@
+// Operands of the float exponentials and logarithms whose result, worked out from the steps in exact arithmetic,
+// changes with the last binary digits of one constant: between them they see nearly every constant of the main paths,
+// and of the rare routines those that reach the result. Operand, result, operand, result.
+#include "tests/harness/lanes.h"
+
+namespace {
+
+void expect_pairs(const char* family, std::initializer_list<uint64_t> pairs) {
+    std::vector<harness::Row> rows;
+    for (const uint64_t* pair = pairs.begin(); pair != pairs.end(); pair += 2) rows.push_back({{pair[0]}, {pair[1]}});
+    harness::expect_rows(family, rows, {4});
+}
+
+TEST(ExplogDigits, Exponentials) {
+    expect_pairs("expf",
+                 {0xbe4ab43b, 0x3f520647, 0xbed00014, 0x3f2a885e, 0x408aa22b, 0x42983cd9, 0x3ece488b, 0x3fbf81f4,
+                  0x40bedbe9, 0x43c2a61e, 0x41a989a7, 0x4ebe8894, 0x428a9bd1, 0x717d5aaa, 0xc2a9d236, 0x02350328,
+                  0xc2af783b, 0x0055f2da, 0x42b085bf, 0x7f2158fe, 0x42af8f0c, 0x7ec75001, 0x42af5dc3, 0x7eb50569,
+                  0x42af4144, 0x7eab38ae, 0xc2af79af, 0x0055b47e, 0x42af56ff, 0x7eb2a516, 0x42b00aef, 0x7efddfe4});
+    expect_pairs("exp2f", {0xbe00731c, 0x3f6aae7d, 0x40ee0429, 0x432d67de, 0x3f1cf70a, 0x3fc3c997, 0x4182d86a,
+                           0x47a3c94c, 0x42e4c322, 0x78a6b373, 0xbeda5fec, 0x3f3e7a95, 0x41286e82, 0x44b86fb6,
+                           0x42fd6c4c, 0x7ed19a6f, 0xc2fcf538, 0x005bd725, 0x42fee73f, 0x7f2f0db7, 0x42ff04b6,
+                           0x7f362d72, 0x42fee36a, 0x7f2e25d5, 0x42fd0403, 0x7eb60151});
+    expect_pairs("exp10f", {0x40368cf0, 0x4431f297, 0xc1d068d0, 0x14300d60, 0xc1fdc8e5, 0x0ac47857, 0x3f691945,
+                            0x4102371a, 0xb4c86d12, 0x3f7ffff3, 0xc218cbcb, 0x0044dc66, 0xc218155e, 0x0067c841,
+                            0x4219c0e3, 0x7f4e6d4f, 0xc2185990, 0x00590723, 0xc217c17d, 0x007d5313, 0x421955b7,
+                            0x7f223884, 0x42185239, 0x7eb50511, 0x421830a4, 0x7ea7da91, 0x42198dae, 0x7f37f9b0});
+    expect_pairs("expf_native", {0xbea1f45a, 0x3f3a9338, 0xc20d0c55, 0x260bd803, 0x3fde750f, 0x40b5eb20, 0x407dd27b,
+                                 0x42531a88, 0x40be6356, 0x43bfd01c, 0x420c0408, 0x58b4fe3c});
+    expect_pairs("exp2f_native",
+                 {0xbef9062f, 0x3f36bac6, 0x3e33818d, 0x3f9089e8, 0x3ef7cdd4, 0x3fb3039a, 0x40f24b5c, 0x433e40a8});
+    expect_pairs("exp10f_native", {0x35924a8d, 0x3f7ffb73, 0xbfa85ed7, 0x3d4626e1, 0x3d7b8ba7, 0x3f937243, 0xc1a7149d,
+                                   0x1cc4e9ff, 0x41884757, 0x5bc07b8d});
+}
+
+TEST(ExplogDigits, Logarithms) {
+    expect_pairs("logf", {0x3f5cef63, 0xbe16d806, 0x3ea7a124, 0xbf8eebb9, 0x3f264089, 0xbedd0423, 0x3fa52156,
+                          0x3e826894, 0x3fa07f3b, 0x3e67acc1, 0x3f9a146a, 0x3e3de3fd, 0x3f3029d1, 0xbebf5e3a,
+                          0x3f2c662a, 0xbeca6d56, 0x3fa2a1f5, 0x3e7535f8, 0x3f2ab708, 0xbecf7408, 0x28e4e6f4,
+                          0xc1fa6d94, 0x0044c47a, 0xc2afea6b, 0x003059fd, 0xc2b09ec2, 0x003850ad, 0xc2b050b2});
+    expect_pairs("log2f", {0x3f63a316, 0xbe2d7965, 0x3f6ed991, 0xbdcce1a1, 0x3f9b266a, 0x3e8e1727, 0x3fa61876,
+                           0x3ec071fa, 0x3f2b55d4, 0xbf144e6d, 0x3f45b71d, 0xbebed514, 0x3fa5c7da, 0x3ebf0b28,
+                           0x3f2e034a, 0xbf0e9446, 0x3faa4565, 0x3ed2c8f8, 0x003918f1, 0xc2fe544c, 0x000090b9,
+                           0xc305d2a6, 0x0035bcae, 0xc2fe811a, 0x006b795c, 0xc2fc811a});
+    expect_pairs("log10f", {0x403ee440, 0x3ef2ffac, 0x3f7f92fd, 0xba3d87ca, 0x3faa86c2, 0x3dff24aa, 0x3faf4c1f,
+                            0x3e0bd7ca, 0x3fa8d40c, 0x3df63ded, 0x3fa8ee07, 0x3df6c6c1, 0x3f36d238, 0xbe15b8fc,
+                            0x3ea683f9, 0xbef9c2eb, 0x276b2872, 0xc167c7f8, 0x4031935d, 0x3ee2eb8e, 0x3f325372,
+                            0xbe20cb44, 0x0056684b, 0xc21866d9, 0x0043e256, 0xc218d226, 0x0075aa0e, 0xc217dd89,
+                            0x003a9179, 0xc21913ca, 0x007bc1a3, 0xc217c717, 0x002912c6, 0xc219b197});
+    expect_pairs("logf_native",
+                 {0x3fb5fe36, 0x3eb42903, 0x3f4f100f, 0xbe595960, 0x3f2a61d4, 0xbed084fb, 0x3f3815d6, 0xbea8e3ed});
+    expect_pairs("log2f_native", {0x3f4ef8cf, 0xbe9d0852, 0x3fa6e5f8, 0x3ec40078, 0x3f634287, 0xbe2fea6b, 0x3f4c76d1,
+                                  0xbea609d5, 0x3f2dd3d9, 0xbf0ef8d9});
+    expect_pairs("log10f_native", {0x3ebd99f0, 0xbedce4e3, 0x3fbe9677, 0x3e310785, 0x3f2be0b7, 0xbe312b06});
+}
+
+}  // namespace
