@@ -93,7 +93,7 @@ double16 __ocl_zorv_v8_inv16(double16 x);
  * float: +-0 and subnormals give +-infinity, +-infinity gives +-0. double at widths 1, 8, 16: +-0 gives
  * +-2^1023 or the number just below it, +-infinity and NaN give +-infinity, magnitudes of 2^1023 and above
  * give +-0; at widths 2, 3, 4 as the accurate class.
- * Error: 6144 ulp at most, measured.
+ * Error: 6144 ulp at most.
  * float: the hardware's reciprocal estimate. double: one divide for a batch of four units, by products of the
  * mantissas (Montgomery's simultaneous inversion), the exponents by integer arithmetic; at widths 2, 3, 4 the
  * hardware's divide. In a batch the last bits of a lane depend on its neighbours. */
@@ -108,7 +108,7 @@ float16 __ocl_zorv_v8_invf16_native(float16 x);
  * float: +-0 and subnormals give +-infinity, +-infinity gives +-0. double at widths 1, 8, 16: +-0 gives
  * +-2^1023 or the number just below it, +-infinity and NaN give +-infinity, magnitudes of 2^1023 and above
  * give +-0; at widths 2, 3, 4 as the accurate class.
- * Error: 4 ulp at most, measured.
+ * Error: 4 ulp at most.
  * float: the hardware's reciprocal estimate. double: one divide for a batch of four units, by products of the
  * mantissas (Montgomery's simultaneous inversion), the exponents by integer arithmetic; at widths 2, 3, 4 the
  * hardware's divide. In a batch the last bits of a lane depend on its neighbours. */
@@ -144,7 +144,7 @@ double16 __ocl_zorv_v8_div16(double16 x, double16 y);
 /* divf_native: x/y. x: float, y: float; result: float.
  * x times what the native reciprocal gives for y; so in float 0/0 and infinity/infinity give NaN, and in
  * double at widths 1, 8, 16 a zero divisor gives x * 2^1023.
- * Error: 6145 ulp at most, measured.
+ * Error: 6145 ulp at most.
  * x times the native reciprocal of y; double at widths 2, 3, 4: the hardware's divide. */
 float __ocl_zorv_v8_divf1_native(float x, float y);
 float2 __ocl_zorv_v8_divf2_native(float2 x, float2 y);
@@ -156,7 +156,7 @@ float16 __ocl_zorv_v8_divf16_native(float16 x, float16 y);
 /* div_native: x/y. x: double, y: double; result: double.
  * x times what the native reciprocal gives for y; so in float 0/0 and infinity/infinity give NaN, and in
  * double at widths 1, 8, 16 a zero divisor gives x * 2^1023.
- * Error: 4 ulp at most, measured.
+ * Error: 4 ulp at most.
  * x times the native reciprocal of y; double at widths 2, 3, 4: the hardware's divide. */
 double __ocl_zorv_v8_div1_native(double x, double y);
 double2 __ocl_zorv_v8_div2_native(double2 x, double2 y);
@@ -167,7 +167,7 @@ double16 __ocl_zorv_v8_div16_native(double16 x, double16 y);
 
 /* sqrtf: The square root of x. x: float; result: float.
  * +-0 gives +-0, +infinity gives +infinity, a negative operand gives NaN.
- * Error: 0.82 ulp at most, measured.
+ * Error: 0.82 ulp at most.
  * float: the hardware's reciprocal root estimate, two coupled Newton-Raphson (Goldschmidt) steps. double: the
  * hardware's correctly rounded square root. */
 float __ocl_zorv_v8_sqrtf1(float x);
@@ -191,7 +191,7 @@ double16 __ocl_zorv_v8_sqrt16(double16 x);
 
 /* sqrtf_native: The square root of x. x: float; result: float.
  * As the accurate class.
- * Error: 6145 ulp at most, measured.
+ * Error: 6145 ulp at most.
  * float: x times the hardware's reciprocal root estimate; zero, subnormals, infinities, NaN and negative
  * operands as in the accurate class. double: the hardware's correctly rounded square root. */
 float __ocl_zorv_v8_sqrtf1_native(float x);
@@ -215,7 +215,7 @@ double16 __ocl_zorv_v8_sqrt16_native(double16 x);
 
 /* rsqrtf: 1 / the square root of x. x: float; result: float.
  * +-0 gives +-infinity, +infinity gives +0, a negative operand gives NaN.
- * Error: 0.99 ulp at most, measured.
+ * Error: 0.99 ulp at most.
  * The hardware's estimate y, then y (1 + e)^(-1/2) by its Taylor terms (float) or a fit of degree 4 (double)
  * in the residual e. */
 float __ocl_zorv_v8_rsqrtf1(float x);
@@ -227,7 +227,7 @@ float16 __ocl_zorv_v8_rsqrtf16(float16 x);
 
 /* rsqrt: 1 / the square root of x. x: double; result: double.
  * +-0 gives +-infinity, +infinity gives +0, a negative operand gives NaN.
- * Error: 0.531 ulp at most, measured.
+ * Error: 0.531 ulp at most.
  * The hardware's estimate y, then y (1 + e)^(-1/2) by its Taylor terms (float) or a fit of degree 4 (double)
  * in the residual e. */
 double __ocl_zorv_v8_rsqrt1(double x);
@@ -241,7 +241,7 @@ double16 __ocl_zorv_v8_rsqrt16(double16 x);
  * float: +-0 and subnormals give +-infinity, +infinity gives +0, a negative operand gives NaN. double: the
  * sign is ignored; zero gives about 1.33 * 2^512, infinity +infinity, NaN gives NaN; subnormals are not
  * scaled.
- * Error: 6144 ulp at most, measured.
+ * Error: 6144 ulp at most.
  * float: the hardware's estimate. double: the float estimate of the operand rebuilt in [1, 4), one step of
  * degree 2. */
 float __ocl_zorv_v8_rsqrtf1_native(float x);
@@ -255,7 +255,7 @@ float16 __ocl_zorv_v8_rsqrtf16_native(float16 x);
  * float: +-0 and subnormals give +-infinity, +infinity gives +0, a negative operand gives NaN. double: the
  * sign is ignored; zero gives about 1.33 * 2^512, infinity +infinity, NaN gives NaN; subnormals are not
  * scaled.
- * Error: 280000 ulp at most, measured.
+ * Error: 280000 ulp at most.
  * float: the hardware's estimate. double: the float estimate of the operand rebuilt in [1, 4), one step of
  * degree 2. */
 double __ocl_zorv_v8_rsqrt1_native(double x);
@@ -268,7 +268,7 @@ double16 __ocl_zorv_v8_rsqrt16_native(double16 x);
 /* expf: e^x. x: float; result: float.
  * float: +infinity and operands above 88.72 give +infinity, -infinity and operands below -103.97 give +0, NaN
  * gives NaN; subnormal results are rounded once more. exp(0) is 1.
- * Error: 2.94 ulp at most, measured.
+ * Error: 2.94 ulp at most.
  * float: x = k ln 2 + r with ln 2 in two parts (Cody and Waite), a minimax polynomial of degree 5 in r, 2^k
  * added to the exponent field. */
 float __ocl_zorv_v8_expf1(float x);
@@ -280,7 +280,7 @@ float16 __ocl_zorv_v8_expf16(float16 x);
 
 /* expf_native: e^x. x: float; result: float.
  * float: right for results in the normal range; beyond, the exponent wraps. Infinities give NaN. exp(0) is 1.
- * Error: 1821 ulp at most, measured.
+ * Error: 1821 ulp at most.
  * float: as the accurate class with ln 2 in one part and degree 3. */
 float __ocl_zorv_v8_expf1_native(float x);
 float2 __ocl_zorv_v8_expf2_native(float2 x);
@@ -292,7 +292,7 @@ float16 __ocl_zorv_v8_expf16_native(float16 x);
 /* exp2f: 2^x. x: float; result: float.
  * float: +infinity and operands of 128 and above give +infinity, -infinity and operands below about -149.5
  * give +0, NaN gives NaN. Exact where x is an integer up to 126 in magnitude.
- * Error: 2.85 ulp at most, measured.
+ * Error: 2.85 ulp at most.
  * float: x = k + r, exact; a minimax polynomial of degree 6 in r, 2^k added to the exponent field. */
 float __ocl_zorv_v8_exp2f1(float x);
 float2 __ocl_zorv_v8_exp2f2(float2 x);
@@ -304,7 +304,7 @@ float16 __ocl_zorv_v8_exp2f16(float16 x);
 /* exp2f_native: 2^x. x: float; result: float.
  * float: right for results in the normal range; beyond, the exponent wraps. Infinities give NaN. exp2(0) is
  * 0.99992806.
- * Error: 1231 ulp at most, measured.
+ * Error: 1231 ulp at most.
  * float: as the accurate class with degree 3. */
 float __ocl_zorv_v8_exp2f1_native(float x);
 float2 __ocl_zorv_v8_exp2f2_native(float2 x);
@@ -316,7 +316,7 @@ float16 __ocl_zorv_v8_exp2f16_native(float16 x);
 /* exp10f: 10^x. x: float; result: float.
  * float: +infinity and operands above 38.53 give +infinity, -infinity and operands below -45.15 give +0, NaN
  * gives NaN. exp10(0) is one ulp above 1.
- * Error: 2.93 ulp at most, measured.
+ * Error: 2.93 ulp at most.
  * float: x = k log10(2)/512 + r with the step in two parts, 2^(i/512) from a table by the low nine bits of k
  * (Tang), degree 1 in r, the rest of k added to the exponent field. */
 float __ocl_zorv_v8_exp10f1(float x);
@@ -329,7 +329,7 @@ float16 __ocl_zorv_v8_exp10f16(float16 x);
 /* exp10f_native: 10^x. x: float; result: float.
  * float: right for results in the normal range, with an error that grows with |x|; beyond, the exponent
  * wraps. Infinities give NaN. exp10(0) is 0.99992806.
- * Error: 1305 ulp at most, measured.
+ * Error: 1305 ulp at most.
  * float: the native exp2 of x log2(10). */
 float __ocl_zorv_v8_exp10f1_native(float x);
 float2 __ocl_zorv_v8_exp10f2_native(float2 x);
@@ -340,7 +340,7 @@ float16 __ocl_zorv_v8_exp10f16_native(float16 x);
 
 /* logf: The natural logarithm of x. x: float; result: float.
  * +-0 gives -infinity, a negative operand NaN, +infinity gives +infinity, NaN gives NaN. log(1) is +0.
- * Error: 1.04 ulp at most, measured.
+ * Error: 1.04 ulp at most.
  * float: x = f 2^k with f in [2/3, 4/3), split by integer arithmetic; a minimax polynomial of degree 10 in f
  * - 1, ln 2 in two parts. Subnormal operands: a table of 65 rows and a short polynomial (Tang). */
 float __ocl_zorv_v8_logf1(float x);
@@ -353,7 +353,7 @@ float16 __ocl_zorv_v8_logf16(float16 x);
 /* logf_native: The natural logarithm of x. x: float; result: float.
  * float: right for positive normal operands; any other pattern is split like one, and gives a finite number:
  * -88.03 for +0, 88.72 for +infinity.
- * Error: 8315 ulp at most, measured.
+ * Error: 8315 ulp at most.
  * float: as the accurate class with degree 4 and ln 2 in one part. */
 float __ocl_zorv_v8_logf1_native(float x);
 float2 __ocl_zorv_v8_logf2_native(float2 x);
@@ -365,7 +365,7 @@ float16 __ocl_zorv_v8_logf16_native(float16 x);
 /* log2f: The logarithm of x to base 2. x: float; result: float.
  * +-0 gives -infinity, a negative operand NaN, +infinity gives +infinity, NaN gives NaN. Exact for normal
  * powers of two.
- * Error: 2.62 ulp at most, measured.
+ * Error: 2.62 ulp at most.
  * float: x = f 2^k with f in [2/3, 4/3), split by integer arithmetic; a minimax polynomial of degree 9 in f -
  * 1, in even and odd terms. Subnormal operands: a table of 65 rows and a short polynomial (Tang). */
 float __ocl_zorv_v8_log2f1(float x);
@@ -378,7 +378,7 @@ float16 __ocl_zorv_v8_log2f16(float16 x);
 /* log2f_native: The logarithm of x to base 2. x: float; result: float.
  * float: right for positive normal operands, exact for powers of two; any other pattern is split like one,
  * and gives a finite number: -127 for +0, 128 for +infinity.
- * Error: 894 ulp at most, measured.
+ * Error: 894 ulp at most.
  * float: as the accurate class with degree 5. */
 float __ocl_zorv_v8_log2f1_native(float x);
 float2 __ocl_zorv_v8_log2f2_native(float2 x);
@@ -389,7 +389,7 @@ float16 __ocl_zorv_v8_log2f16_native(float16 x);
 
 /* log10f: The logarithm of x to base 10. x: float; result: float.
  * +-0 gives -infinity, a negative operand NaN, +infinity gives +infinity, NaN gives NaN. log10(1) is +0.
- * Error: 2.63 ulp at most, measured.
+ * Error: 2.63 ulp at most.
  * float: as log2, with log10(2) in two parts. */
 float __ocl_zorv_v8_log10f1(float x);
 float2 __ocl_zorv_v8_log10f2(float2 x);
@@ -401,7 +401,7 @@ float16 __ocl_zorv_v8_log10f16(float16 x);
 /* log10f_native: The logarithm of x to base 10. x: float; result: float.
  * float: right for positive normal operands; any other pattern is split like one, and gives a finite number:
  * -38.23 for +0, 38.53 for +infinity.
- * Error: 996 ulp at most, measured.
+ * Error: 996 ulp at most.
  * float: as the accurate class with degree 5 and log10(2) in one part. */
 float __ocl_zorv_v8_log10f1_native(float x);
 float2 __ocl_zorv_v8_log10f2_native(float2 x);

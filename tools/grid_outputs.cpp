@@ -186,7 +186,7 @@ string error_text(double bound) {
     if (bound == 0) return "Error: none, the result is exact.";
     if (bound == 0.5) return "Error: 0.5 ulp, correctly rounded.";
     char text[64];
-    std::snprintf(text, sizeof text, "Error: %g ulp at most, measured.", bound);
+    std::snprintf(text, sizeof text, "Error: %g ulp at most.", bound);
     return text;
 }
 
