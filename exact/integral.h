@@ -1,0 +1,65 @@
+// Rounding to an integral value without a rounding instruction. A magnitude plus 2^23 (2^52 in double) has no room
+// for a fraction: the sum rounds it away, and taking the power of two off again is exact. What stands above that
+// power is integral already and stays; so does infinity. A NaN comes out quiet, with its sign.
+//
+// The sum rounds to nearest, ties to even, in the mode that every caller is taken to run in; the directed roundings
+// compare and take one step back. The step is subtracted under a mask: subtracting +0 keeps a -0, adding would not.
+//
+// Each template takes a unit and any record with
+//
+//   sign     the sign bit alone
+//   shifter  2^23 or 2^52
+//   step     1.0 for down and toward zero, -1.0 for up (to_nearest reads none)
+#pragma once
+
+#include "frame/units.h"
+
+namespace zorv {
+
+// The magnitude a with its fraction rounded away.
+template <class Unit, class Data>
+inline Unit shift_out_fraction(Unit a, const Data& data) {
+    return (a + Unit(data.shifter)) - Unit(data.shifter);
+}
+
+// The rounded lanes; x itself where its magnitude a has no fraction bits. A NaN is not above the shifter.
+template <class Unit, class Data>
+inline Unit where_fraction_fits(Unit rounded, Unit a, Unit x, const Data& data) {
+    return select(Unit(data.shifter) < a, x, rounded);
+}
+
+template <class Unit, class Data>
+inline Unit to_nearest(Unit x, const Data& data) {
+    Unit a = clear_bits(x, data.sign);
+    Unit r = or_bits(shift_out_fraction(a, data), bits(x) & data.sign);
+    return where_fraction_fits(r, a, x, data);
+}
+
+// The sign is back before the step: what steps from 1 to 0 is +0.
+template <class Unit, class Data>
+inline Unit down(Unit x, const Data& data) {
+    Unit a = clear_bits(x, data.sign);
+    Unit r = or_bits(shift_out_fraction(a, data), bits(x) & data.sign);
+    r = r - and_bits(Unit(data.step), x < r);
+    return where_fraction_fits(r, a, x, data);
+}
+
+// Likewise: (-1, -0.5) steps from -1 to +0, while [-0.5, 0) needs no step and gives -0.
+template <class Unit, class Data>
+inline Unit up(Unit x, const Data& data) {
+    Unit a = clear_bits(x, data.sign);
+    Unit r = or_bits(shift_out_fraction(a, data), bits(x) & data.sign);
+    r = r - and_bits(Unit(data.step), r < x);
+    return where_fraction_fits(r, a, x, data);
+}
+
+// The step is taken on the magnitude, the sign put back last: (-1, 0) gives -0.
+template <class Unit, class Data>
+inline Unit toward_zero(Unit x, const Data& data) {
+    Unit a = clear_bits(x, data.sign);
+    Unit r = shift_out_fraction(a, data);
+    r = r - and_bits(Unit(data.step), a < r);
+    return where_fraction_fits(or_bits(r, bits(x) & data.sign), a, x, data);
+}
+
+}  // namespace zorv
