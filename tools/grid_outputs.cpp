@@ -174,7 +174,7 @@ void wrapped(const string& prefix, const string& text, size_t columns = 110) {
         if (end == string::npos) end = text.size();
         if (line.size() + 1 + (end - at) > columns) {
             std::puts(line.c_str());
-            line = prefix;
+            line = " *";
         }
         line += " " + text.substr(at, end - at);
         at = end + 1;
@@ -185,6 +185,7 @@ void wrapped(const string& prefix, const string& text, size_t columns = 110) {
 string error_text(double bound) {
     if (bound == 0) return "Error: none, the result is exact.";
     if (bound == 0.5) return "Error: 0.5 ulp, correctly rounded.";
+    if (bound > 0x1p100) return "Error: each step is rounded; where they cancel, no multiple of the ulp bounds it.";
     char text[64];
     std::snprintf(text, sizeof text, "Error: %g ulp at most.", bound);
     return text;
