@@ -265,6 +265,418 @@ double4 __ocl_zorv_v8_rsqrt4_native(double4 x);
 double8 __ocl_zorv_v8_rsqrt8_native(double8 x);
 double16 __ocl_zorv_v8_rsqrt16_native(double16 x);
 
+/* fabsf: |x|. x: float; result: float.
+ * Clears the sign of a NaN too and keeps its payload.
+ * Error: none, the result is exact.
+ * One logical instruction. */
+float __ocl_zorv_v8_fabsf1(float x);
+float2 __ocl_zorv_v8_fabsf2(float2 x);
+float4 __ocl_zorv_v8_fabsf3(float4 x);
+float4 __ocl_zorv_v8_fabsf4(float4 x);
+float8 __ocl_zorv_v8_fabsf8(float8 x);
+float16 __ocl_zorv_v8_fabsf16(float16 x);
+
+/* fabs: |x|. x: double; result: double.
+ * Clears the sign of a NaN too and keeps its payload.
+ * Error: none, the result is exact.
+ * One logical instruction. */
+double __ocl_zorv_v8_fabs1(double x);
+double2 __ocl_zorv_v8_fabs2(double2 x);
+double4 __ocl_zorv_v8_fabs3(double4 x);
+double4 __ocl_zorv_v8_fabs4(double4 x);
+double8 __ocl_zorv_v8_fabs8(double8 x);
+double16 __ocl_zorv_v8_fabs16(double16 x);
+
+/* copysignf: The magnitude of x with the sign of y. x: float, y: float; result: float.
+ * A NaN has a sign like any other value.
+ * Error: none, the result is exact.
+ * Logical instructions. */
+float __ocl_zorv_v8_copysignf1(float x, float y);
+float2 __ocl_zorv_v8_copysignf2(float2 x, float2 y);
+float4 __ocl_zorv_v8_copysignf3(float4 x, float4 y);
+float4 __ocl_zorv_v8_copysignf4(float4 x, float4 y);
+float8 __ocl_zorv_v8_copysignf8(float8 x, float8 y);
+float16 __ocl_zorv_v8_copysignf16(float16 x, float16 y);
+
+/* copysign: The magnitude of x with the sign of y. x: double, y: double; result: double.
+ * A NaN has a sign like any other value.
+ * Error: none, the result is exact.
+ * Logical instructions. */
+double __ocl_zorv_v8_copysign1(double x, double y);
+double2 __ocl_zorv_v8_copysign2(double2 x, double2 y);
+double4 __ocl_zorv_v8_copysign3(double4 x, double4 y);
+double4 __ocl_zorv_v8_copysign4(double4 x, double4 y);
+double8 __ocl_zorv_v8_copysign8(double8 x, double8 y);
+double16 __ocl_zorv_v8_copysign16(double16 x, double16 y);
+
+/* nanf: A quiet NaN with the code in its mantissa. code: uint; result: float.
+ * Bits of the code above the mantissa are not masked: they stay in the result.
+ * Error: none, the result is exact.
+ * One logical instruction. */
+float __ocl_zorv_v8_nanf1(unsigned int code);
+float2 __ocl_zorv_v8_nanf2(uint2 code);
+float4 __ocl_zorv_v8_nanf3(uint4 code);
+float4 __ocl_zorv_v8_nanf4(uint4 code);
+float8 __ocl_zorv_v8_nanf8(uint8 code);
+float16 __ocl_zorv_v8_nanf16(uint16 code);
+
+/* nan: A quiet NaN with the code in its mantissa. code: ulong; result: double.
+ * Bits of the code above the mantissa are not masked: they stay in the result.
+ * Error: none, the result is exact.
+ * One logical instruction. */
+double __ocl_zorv_v8_nan1(__UINT64_TYPE__ code);
+double2 __ocl_zorv_v8_nan2(ulong2 code);
+double4 __ocl_zorv_v8_nan3(ulong4 code);
+double4 __ocl_zorv_v8_nan4(ulong4 code);
+double8 __ocl_zorv_v8_nan8(ulong8 code);
+double16 __ocl_zorv_v8_nan16(ulong16 code);
+
+/* fminf: The lesser of x and y. x: float, y: float; result: float.
+ * One NaN gives the other operand, two give the second; of two zeros the second.
+ * Error: none, the result is exact.
+ * The hardware's minimum. */
+float __ocl_zorv_v8_fminf1(float x, float y);
+float2 __ocl_zorv_v8_fminf2(float2 x, float2 y);
+float4 __ocl_zorv_v8_fminf3(float4 x, float4 y);
+float4 __ocl_zorv_v8_fminf4(float4 x, float4 y);
+float8 __ocl_zorv_v8_fminf8(float8 x, float8 y);
+float16 __ocl_zorv_v8_fminf16(float16 x, float16 y);
+
+/* fmin: The lesser of x and y. x: double, y: double; result: double.
+ * One NaN gives the other operand, two give the second; of two zeros the second.
+ * Error: none, the result is exact.
+ * The hardware's minimum. */
+double __ocl_zorv_v8_fmin1(double x, double y);
+double2 __ocl_zorv_v8_fmin2(double2 x, double2 y);
+double4 __ocl_zorv_v8_fmin3(double4 x, double4 y);
+double4 __ocl_zorv_v8_fmin4(double4 x, double4 y);
+double8 __ocl_zorv_v8_fmin8(double8 x, double8 y);
+double16 __ocl_zorv_v8_fmin16(double16 x, double16 y);
+
+/* fmaxf: The greater of x and y. x: float, y: float; result: float.
+ * One NaN gives the other operand, two give the second; of two zeros the second.
+ * Error: none, the result is exact.
+ * The hardware's maximum. */
+float __ocl_zorv_v8_fmaxf1(float x, float y);
+float2 __ocl_zorv_v8_fmaxf2(float2 x, float2 y);
+float4 __ocl_zorv_v8_fmaxf3(float4 x, float4 y);
+float4 __ocl_zorv_v8_fmaxf4(float4 x, float4 y);
+float8 __ocl_zorv_v8_fmaxf8(float8 x, float8 y);
+float16 __ocl_zorv_v8_fmaxf16(float16 x, float16 y);
+
+/* fmax: The greater of x and y. x: double, y: double; result: double.
+ * One NaN gives the other operand, two give the second; of two zeros the second.
+ * Error: none, the result is exact.
+ * The hardware's maximum. */
+double __ocl_zorv_v8_fmax1(double x, double y);
+double2 __ocl_zorv_v8_fmax2(double2 x, double2 y);
+double4 __ocl_zorv_v8_fmax3(double4 x, double4 y);
+double4 __ocl_zorv_v8_fmax4(double4 x, double4 y);
+double8 __ocl_zorv_v8_fmax8(double8 x, double8 y);
+double16 __ocl_zorv_v8_fmax16(double16 x, double16 y);
+
+/* maxmagf: Of x and y the one with the greater magnitude; of equal magnitudes the greater value. x: float, y:
+ * float; result: float.
+ * One NaN gives the other operand, two give the second; of two zeros the first.
+ * Error: none, the result is exact.
+ * Compares of the magnitudes and the hardware's maximum. */
+float __ocl_zorv_v8_maxmagf1(float x, float y);
+float2 __ocl_zorv_v8_maxmagf2(float2 x, float2 y);
+float4 __ocl_zorv_v8_maxmagf3(float4 x, float4 y);
+float4 __ocl_zorv_v8_maxmagf4(float4 x, float4 y);
+float8 __ocl_zorv_v8_maxmagf8(float8 x, float8 y);
+float16 __ocl_zorv_v8_maxmagf16(float16 x, float16 y);
+
+/* maxmag: Of x and y the one with the greater magnitude; of equal magnitudes the greater value. x: double, y:
+ * double; result: double.
+ * One NaN gives the other operand, two give the second; of two zeros the first.
+ * Error: none, the result is exact.
+ * Compares of the magnitudes and the hardware's maximum. */
+double __ocl_zorv_v8_maxmag1(double x, double y);
+double2 __ocl_zorv_v8_maxmag2(double2 x, double2 y);
+double4 __ocl_zorv_v8_maxmag3(double4 x, double4 y);
+double4 __ocl_zorv_v8_maxmag4(double4 x, double4 y);
+double8 __ocl_zorv_v8_maxmag8(double8 x, double8 y);
+double16 __ocl_zorv_v8_maxmag16(double16 x, double16 y);
+
+/* minmagf: Of x and y the one with the lesser magnitude; of equal magnitudes the lesser value. x: float, y:
+ * float; result: float.
+ * One NaN gives the other operand, two give the second; of two zeros the first.
+ * Error: none, the result is exact.
+ * Compares of the magnitudes and the hardware's minimum. */
+float __ocl_zorv_v8_minmagf1(float x, float y);
+float2 __ocl_zorv_v8_minmagf2(float2 x, float2 y);
+float4 __ocl_zorv_v8_minmagf3(float4 x, float4 y);
+float4 __ocl_zorv_v8_minmagf4(float4 x, float4 y);
+float8 __ocl_zorv_v8_minmagf8(float8 x, float8 y);
+float16 __ocl_zorv_v8_minmagf16(float16 x, float16 y);
+
+/* minmag: Of x and y the one with the lesser magnitude; of equal magnitudes the lesser value. x: double, y:
+ * double; result: double.
+ * One NaN gives the other operand, two give the second; of two zeros the first.
+ * Error: none, the result is exact.
+ * Compares of the magnitudes and the hardware's minimum. */
+double __ocl_zorv_v8_minmag1(double x, double y);
+double2 __ocl_zorv_v8_minmag2(double2 x, double2 y);
+double4 __ocl_zorv_v8_minmag3(double4 x, double4 y);
+double4 __ocl_zorv_v8_minmag4(double4 x, double4 y);
+double8 __ocl_zorv_v8_minmag8(double8 x, double8 y);
+double16 __ocl_zorv_v8_minmag16(double16 x, double16 y);
+
+/* fdimf: x - y where x > y, else +0. x: float, y: float; result: float.
+ * A NaN gives that NaN, two give the second; equal infinities give +0.
+ * Error: 0.5 ulp, correctly rounded.
+ * The hardware's subtraction under a compare. */
+float __ocl_zorv_v8_fdimf1(float x, float y);
+float2 __ocl_zorv_v8_fdimf2(float2 x, float2 y);
+float4 __ocl_zorv_v8_fdimf3(float4 x, float4 y);
+float4 __ocl_zorv_v8_fdimf4(float4 x, float4 y);
+float8 __ocl_zorv_v8_fdimf8(float8 x, float8 y);
+float16 __ocl_zorv_v8_fdimf16(float16 x, float16 y);
+
+/* fdim: x - y where x > y, else +0. x: double, y: double; result: double.
+ * A NaN gives that NaN, two give the second; equal infinities give +0.
+ * Error: 0.5 ulp, correctly rounded.
+ * The hardware's subtraction under a compare. */
+double __ocl_zorv_v8_fdim1(double x, double y);
+double2 __ocl_zorv_v8_fdim2(double2 x, double2 y);
+double4 __ocl_zorv_v8_fdim3(double4 x, double4 y);
+double4 __ocl_zorv_v8_fdim4(double4 x, double4 y);
+double8 __ocl_zorv_v8_fdim8(double8 x, double8 y);
+double16 __ocl_zorv_v8_fdim16(double16 x, double16 y);
+
+/* madf: a b + c in two roundings. a: float, b: float, c: float; result: float.
+ * As the hardware's multiplication and addition.
+ * Error: each step is rounded; where they cancel, no multiple of the ulp bounds it.
+ * The hardware's multiplication, then its addition; fma rounds once. */
+float __ocl_zorv_v8_madf1(float a, float b, float c);
+float2 __ocl_zorv_v8_madf2(float2 a, float2 b, float2 c);
+float4 __ocl_zorv_v8_madf3(float4 a, float4 b, float4 c);
+float4 __ocl_zorv_v8_madf4(float4 a, float4 b, float4 c);
+float8 __ocl_zorv_v8_madf8(float8 a, float8 b, float8 c);
+float16 __ocl_zorv_v8_madf16(float16 a, float16 b, float16 c);
+
+/* mad: a b + c in two roundings. a: double, b: double, c: double; result: double.
+ * As the hardware's multiplication and addition.
+ * Error: each step is rounded; where they cancel, no multiple of the ulp bounds it.
+ * The hardware's multiplication, then its addition; fma rounds once. */
+double __ocl_zorv_v8_mad1(double a, double b, double c);
+double2 __ocl_zorv_v8_mad2(double2 a, double2 b, double2 c);
+double4 __ocl_zorv_v8_mad3(double4 a, double4 b, double4 c);
+double4 __ocl_zorv_v8_mad4(double4 a, double4 b, double4 c);
+double8 __ocl_zorv_v8_mad8(double8 a, double8 b, double8 c);
+double16 __ocl_zorv_v8_mad16(double16 a, double16 b, double16 c);
+
+/* fmaf: a b + c in one rounding. a: float, b: float, c: float; result: float.
+ * As IEEE 754 has it; an exact cancellation gives +0, rounding downward -0. Rounds in the mode of the x87
+ * control word. With c = 0 product and sum round as the hardware's, so that a tiny negative product plus +0
+ * gives +0.
+ * Error: 0.5 ulp, correctly rounded.
+ * Exact integer arithmetic, one lane after the other: the target has no fused instruction. */
+float __ocl_zorv_v8_fmaf1(float a, float b, float c);
+float2 __ocl_zorv_v8_fmaf2(float2 a, float2 b, float2 c);
+float4 __ocl_zorv_v8_fmaf3(float4 a, float4 b, float4 c);
+float4 __ocl_zorv_v8_fmaf4(float4 a, float4 b, float4 c);
+float8 __ocl_zorv_v8_fmaf8(float8 a, float8 b, float8 c);
+float16 __ocl_zorv_v8_fmaf16(float16 a, float16 b, float16 c);
+
+/* fma: a b + c in one rounding. a: double, b: double, c: double; result: double.
+ * As IEEE 754 has it; an exact cancellation gives +0, rounding downward -0. Rounds in the mode of the x87
+ * control word. With c = 0 product and sum round as the hardware's, so that a tiny negative product plus +0
+ * gives +0.
+ * Error: 0.5 ulp, correctly rounded.
+ * Exact integer arithmetic, one lane after the other: the target has no fused instruction. */
+double __ocl_zorv_v8_fma1(double a, double b, double c);
+double2 __ocl_zorv_v8_fma2(double2 a, double2 b, double2 c);
+double4 __ocl_zorv_v8_fma3(double4 a, double4 b, double4 c);
+double4 __ocl_zorv_v8_fma4(double4 a, double4 b, double4 c);
+double8 __ocl_zorv_v8_fma8(double8 a, double8 b, double8 c);
+double16 __ocl_zorv_v8_fma16(double16 a, double16 b, double16 c);
+
+/* ceilf: x rounded up to an integral value. x: float; result: float.
+ * x in (-1, -0.5) gives +0, x in [-0.5, -0] gives -0.
+ * Error: none, the result is exact.
+ * Adds and subtracts 2^23 (double: 2^52) and steps up where that rounded down. */
+float __ocl_zorv_v8_ceilf1(float x);
+float2 __ocl_zorv_v8_ceilf2(float2 x);
+float4 __ocl_zorv_v8_ceilf3(float4 x);
+float4 __ocl_zorv_v8_ceilf4(float4 x);
+float8 __ocl_zorv_v8_ceilf8(float8 x);
+float16 __ocl_zorv_v8_ceilf16(float16 x);
+
+/* ceil: x rounded up to an integral value. x: double; result: double.
+ * x in (-1, -0.5) gives +0, x in [-0.5, -0] gives -0.
+ * Error: none, the result is exact.
+ * Adds and subtracts 2^23 (double: 2^52) and steps up where that rounded down. */
+double __ocl_zorv_v8_ceil1(double x);
+double2 __ocl_zorv_v8_ceil2(double2 x);
+double4 __ocl_zorv_v8_ceil3(double4 x);
+double4 __ocl_zorv_v8_ceil4(double4 x);
+double8 __ocl_zorv_v8_ceil8(double8 x);
+double16 __ocl_zorv_v8_ceil16(double16 x);
+
+/* floorf: x rounded down to an integral value. x: float; result: float.
+ * -0 gives -0.
+ * Error: none, the result is exact.
+ * Adds and subtracts 2^23 (double: 2^52) and steps down where that rounded up. */
+float __ocl_zorv_v8_floorf1(float x);
+float2 __ocl_zorv_v8_floorf2(float2 x);
+float4 __ocl_zorv_v8_floorf3(float4 x);
+float4 __ocl_zorv_v8_floorf4(float4 x);
+float8 __ocl_zorv_v8_floorf8(float8 x);
+float16 __ocl_zorv_v8_floorf16(float16 x);
+
+/* floor: x rounded down to an integral value. x: double; result: double.
+ * -0 gives -0.
+ * Error: none, the result is exact.
+ * Adds and subtracts 2^23 (double: 2^52) and steps down where that rounded up. */
+double __ocl_zorv_v8_floor1(double x);
+double2 __ocl_zorv_v8_floor2(double2 x);
+double4 __ocl_zorv_v8_floor3(double4 x);
+double4 __ocl_zorv_v8_floor4(double4 x);
+double8 __ocl_zorv_v8_floor8(double8 x);
+double16 __ocl_zorv_v8_floor16(double16 x);
+
+/* roundf: x rounded to the nearest integral value, ties away from zero. x: float; result: float.
+ * Keeps the sign, that of a zero result too.
+ * Error: none, the result is exact.
+ * Rounds ties to even as rint does; a tie that went down takes one more. */
+float __ocl_zorv_v8_roundf1(float x);
+float2 __ocl_zorv_v8_roundf2(float2 x);
+float4 __ocl_zorv_v8_roundf3(float4 x);
+float4 __ocl_zorv_v8_roundf4(float4 x);
+float8 __ocl_zorv_v8_roundf8(float8 x);
+float16 __ocl_zorv_v8_roundf16(float16 x);
+
+/* round: x rounded to the nearest integral value, ties away from zero. x: double; result: double.
+ * Keeps the sign, that of a zero result too.
+ * Error: none, the result is exact.
+ * Rounds ties to even as rint does; a tie that went down takes one more. */
+double __ocl_zorv_v8_round1(double x);
+double2 __ocl_zorv_v8_round2(double2 x);
+double4 __ocl_zorv_v8_round3(double4 x);
+double4 __ocl_zorv_v8_round4(double4 x);
+double8 __ocl_zorv_v8_round8(double8 x);
+double16 __ocl_zorv_v8_round16(double16 x);
+
+/* truncf: x rounded toward zero to an integral value. x: float; result: float.
+ * Keeps the sign, that of a zero result too.
+ * Error: none, the result is exact.
+ * Adds and subtracts 2^23 (double: 2^52) and steps back where that rounded away from zero. */
+float __ocl_zorv_v8_truncf1(float x);
+float2 __ocl_zorv_v8_truncf2(float2 x);
+float4 __ocl_zorv_v8_truncf3(float4 x);
+float4 __ocl_zorv_v8_truncf4(float4 x);
+float8 __ocl_zorv_v8_truncf8(float8 x);
+float16 __ocl_zorv_v8_truncf16(float16 x);
+
+/* trunc: x rounded toward zero to an integral value. x: double; result: double.
+ * Keeps the sign, that of a zero result too.
+ * Error: none, the result is exact.
+ * Adds and subtracts 2^23 (double: 2^52) and steps back where that rounded away from zero. */
+double __ocl_zorv_v8_trunc1(double x);
+double2 __ocl_zorv_v8_trunc2(double2 x);
+double4 __ocl_zorv_v8_trunc3(double4 x);
+double4 __ocl_zorv_v8_trunc4(double4 x);
+double8 __ocl_zorv_v8_trunc8(double8 x);
+double16 __ocl_zorv_v8_trunc16(double16 x);
+
+/* rintf: x rounded to the nearest integral value, ties to even. x: float; result: float.
+ * Keeps the sign, that of a zero result too.
+ * Error: none, the result is exact.
+ * Adds and subtracts 2^23 (double: 2^52). */
+float __ocl_zorv_v8_rintf1(float x);
+float2 __ocl_zorv_v8_rintf2(float2 x);
+float4 __ocl_zorv_v8_rintf3(float4 x);
+float4 __ocl_zorv_v8_rintf4(float4 x);
+float8 __ocl_zorv_v8_rintf8(float8 x);
+float16 __ocl_zorv_v8_rintf16(float16 x);
+
+/* rint: x rounded to the nearest integral value, ties to even. x: double; result: double.
+ * Keeps the sign, that of a zero result too.
+ * Error: none, the result is exact.
+ * Adds and subtracts 2^23 (double: 2^52). */
+double __ocl_zorv_v8_rint1(double x);
+double2 __ocl_zorv_v8_rint2(double2 x);
+double4 __ocl_zorv_v8_rint3(double4 x);
+double4 __ocl_zorv_v8_rint4(double4 x);
+double8 __ocl_zorv_v8_rint8(double8 x);
+double16 __ocl_zorv_v8_rint16(double16 x);
+
+/* nearbyintf: x rounded to the nearest integral value, ties to even. x: float; result: float.
+ * Keeps the sign, that of a zero result too.
+ * Error: none, the result is exact.
+ * The same as rint: no flags are kept. */
+float __ocl_zorv_v8_nearbyintf1(float x);
+float2 __ocl_zorv_v8_nearbyintf2(float2 x);
+float4 __ocl_zorv_v8_nearbyintf3(float4 x);
+float4 __ocl_zorv_v8_nearbyintf4(float4 x);
+float8 __ocl_zorv_v8_nearbyintf8(float8 x);
+float16 __ocl_zorv_v8_nearbyintf16(float16 x);
+
+/* nearbyint: x rounded to the nearest integral value, ties to even. x: double; result: double.
+ * Keeps the sign, that of a zero result too.
+ * Error: none, the result is exact.
+ * The same as rint: no flags are kept. */
+double __ocl_zorv_v8_nearbyint1(double x);
+double2 __ocl_zorv_v8_nearbyint2(double2 x);
+double4 __ocl_zorv_v8_nearbyint3(double4 x);
+double4 __ocl_zorv_v8_nearbyint4(double4 x);
+double8 __ocl_zorv_v8_nearbyint8(double8 x);
+double16 __ocl_zorv_v8_nearbyint16(double16 x);
+
+/* modff: The fractional part of x; through the pointer its integral part. x: float; result: float; through
+ * the pointer: float.
+ * An integral x gives the fraction +0, whatever its sign; +-infinity gives +-0 and +-infinity, NaN gives NaN
+ * twice.
+ * Error: none, the result is exact.
+ * x rounded toward zero as trunc does, and an exact subtraction. */
+float __ocl_zorv_v8_modff1(float x, float *second);
+float2 __ocl_zorv_v8_modff2(float2 x, float2 *second);
+float4 __ocl_zorv_v8_modff3(float4 x, float4 *second);
+float4 __ocl_zorv_v8_modff4(float4 x, float4 *second);
+float8 __ocl_zorv_v8_modff8(float8 x, float8 *second);
+float16 __ocl_zorv_v8_modff16(float16 x, float16 *second);
+
+/* modf: The fractional part of x; through the pointer its integral part. x: double; result: double; through
+ * the pointer: double.
+ * An integral x gives the fraction +0, whatever its sign; +-infinity gives +-0 and +-infinity, NaN gives NaN
+ * twice.
+ * Error: none, the result is exact.
+ * x rounded toward zero as trunc does, and an exact subtraction. */
+double __ocl_zorv_v8_modf1(double x, double *second);
+double2 __ocl_zorv_v8_modf2(double2 x, double2 *second);
+double4 __ocl_zorv_v8_modf3(double4 x, double4 *second);
+double4 __ocl_zorv_v8_modf4(double4 x, double4 *second);
+double8 __ocl_zorv_v8_modf8(double8 x, double8 *second);
+double16 __ocl_zorv_v8_modf16(double16 x, double16 *second);
+
+/* fractf: x - floor(x), below 1; through the pointer floor(x). x: float; result: float; through the pointer:
+ * float.
+ * +-0 gives +-0 twice, +-infinity gives +-0 and +-infinity, NaN gives NaN twice; a tiny negative x gives the
+ * number just below 1.
+ * Error: 1 ulp at most.
+ * x rounded down as floor does, a subtraction, and the hardware's minimum with the number just below 1. */
+float __ocl_zorv_v8_fractf1(float x, float *second);
+float2 __ocl_zorv_v8_fractf2(float2 x, float2 *second);
+float4 __ocl_zorv_v8_fractf3(float4 x, float4 *second);
+float4 __ocl_zorv_v8_fractf4(float4 x, float4 *second);
+float8 __ocl_zorv_v8_fractf8(float8 x, float8 *second);
+float16 __ocl_zorv_v8_fractf16(float16 x, float16 *second);
+
+/* fract: x - floor(x), below 1; through the pointer floor(x). x: double; result: double; through the pointer:
+ * double.
+ * +-0 gives +-0 twice, +-infinity gives +-0 and +-infinity, NaN gives NaN twice; a tiny negative x gives the
+ * number just below 1.
+ * Error: 1 ulp at most.
+ * x rounded down as floor does, a subtraction, and the hardware's minimum with the number just below 1. */
+double __ocl_zorv_v8_fract1(double x, double *second);
+double2 __ocl_zorv_v8_fract2(double2 x, double2 *second);
+double4 __ocl_zorv_v8_fract3(double4 x, double4 *second);
+double4 __ocl_zorv_v8_fract4(double4 x, double4 *second);
+double8 __ocl_zorv_v8_fract8(double8 x, double8 *second);
+double16 __ocl_zorv_v8_fract16(double16 x, double16 *second);
+
 /* expf: e^x. x: float; result: float.
  * float: +infinity and operands above 88.72 give +infinity, -infinity and operands below -103.97 give +0, NaN
  * gives NaN; subnormal results are rounded once more. exp(0) is 1.

@@ -106,6 +106,686 @@ OVERLOAD double4 native_rsqrt(double4 x) { return __ocl_zorv_v8_rsqrt4_native(x)
 OVERLOAD double8 native_rsqrt(double8 x) { return __ocl_zorv_v8_rsqrt8_native(x); }
 OVERLOAD double16 native_rsqrt(double16 x) { return __ocl_zorv_v8_rsqrt16_native(x); }
 
+/* fabsf */
+OVERLOAD float fabs(float x) { return __ocl_zorv_v8_fabsf1(x); }
+OVERLOAD float2 fabs(float2 x) { return __ocl_zorv_v8_fabsf2(x); }
+OVERLOAD float3 fabs(float3 x) { return (__ocl_zorv_v8_fabsf3(x.xyzz)).xyz; }
+OVERLOAD float4 fabs(float4 x) { return __ocl_zorv_v8_fabsf4(x); }
+OVERLOAD float8 fabs(float8 x) { return __ocl_zorv_v8_fabsf8(x); }
+OVERLOAD float16 fabs(float16 x) { return __ocl_zorv_v8_fabsf16(x); }
+
+/* fabs */
+OVERLOAD double fabs(double x) { return __ocl_zorv_v8_fabs1(x); }
+OVERLOAD double2 fabs(double2 x) { return __ocl_zorv_v8_fabs2(x); }
+OVERLOAD double3 fabs(double3 x) { return (__ocl_zorv_v8_fabs3(x.xyzz)).xyz; }
+OVERLOAD double4 fabs(double4 x) { return __ocl_zorv_v8_fabs4(x); }
+OVERLOAD double8 fabs(double8 x) { return __ocl_zorv_v8_fabs8(x); }
+OVERLOAD double16 fabs(double16 x) { return __ocl_zorv_v8_fabs16(x); }
+
+/* copysignf */
+OVERLOAD float copysign(float x, float y) { return __ocl_zorv_v8_copysignf1(x, y); }
+OVERLOAD float2 copysign(float2 x, float2 y) { return __ocl_zorv_v8_copysignf2(x, y); }
+OVERLOAD float3 copysign(float3 x, float3 y) { return (__ocl_zorv_v8_copysignf3(x.xyzz, y.xyzz)).xyz; }
+OVERLOAD float4 copysign(float4 x, float4 y) { return __ocl_zorv_v8_copysignf4(x, y); }
+OVERLOAD float8 copysign(float8 x, float8 y) { return __ocl_zorv_v8_copysignf8(x, y); }
+OVERLOAD float16 copysign(float16 x, float16 y) { return __ocl_zorv_v8_copysignf16(x, y); }
+
+/* copysign */
+OVERLOAD double copysign(double x, double y) { return __ocl_zorv_v8_copysign1(x, y); }
+OVERLOAD double2 copysign(double2 x, double2 y) { return __ocl_zorv_v8_copysign2(x, y); }
+OVERLOAD double3 copysign(double3 x, double3 y) { return (__ocl_zorv_v8_copysign3(x.xyzz, y.xyzz)).xyz; }
+OVERLOAD double4 copysign(double4 x, double4 y) { return __ocl_zorv_v8_copysign4(x, y); }
+OVERLOAD double8 copysign(double8 x, double8 y) { return __ocl_zorv_v8_copysign8(x, y); }
+OVERLOAD double16 copysign(double16 x, double16 y) { return __ocl_zorv_v8_copysign16(x, y); }
+
+/* nanf */
+OVERLOAD float nan(uint code) { return __ocl_zorv_v8_nanf1(code); }
+OVERLOAD float2 nan(uint2 code) { return __ocl_zorv_v8_nanf2(code); }
+OVERLOAD float3 nan(uint3 code) { return (__ocl_zorv_v8_nanf3(code.xyzz)).xyz; }
+OVERLOAD float4 nan(uint4 code) { return __ocl_zorv_v8_nanf4(code); }
+OVERLOAD float8 nan(uint8 code) { return __ocl_zorv_v8_nanf8(code); }
+OVERLOAD float16 nan(uint16 code) { return __ocl_zorv_v8_nanf16(code); }
+
+/* nan */
+OVERLOAD double nan(ulong code) { return __ocl_zorv_v8_nan1(code); }
+OVERLOAD double2 nan(ulong2 code) { return __ocl_zorv_v8_nan2(code); }
+OVERLOAD double3 nan(ulong3 code) { return (__ocl_zorv_v8_nan3(code.xyzz)).xyz; }
+OVERLOAD double4 nan(ulong4 code) { return __ocl_zorv_v8_nan4(code); }
+OVERLOAD double8 nan(ulong8 code) { return __ocl_zorv_v8_nan8(code); }
+OVERLOAD double16 nan(ulong16 code) { return __ocl_zorv_v8_nan16(code); }
+
+/* fminf */
+OVERLOAD float fmin(float x, float y) { return __ocl_zorv_v8_fminf1(x, y); }
+OVERLOAD float2 fmin(float2 x, float2 y) { return __ocl_zorv_v8_fminf2(x, y); }
+OVERLOAD float3 fmin(float3 x, float3 y) { return (__ocl_zorv_v8_fminf3(x.xyzz, y.xyzz)).xyz; }
+OVERLOAD float4 fmin(float4 x, float4 y) { return __ocl_zorv_v8_fminf4(x, y); }
+OVERLOAD float8 fmin(float8 x, float8 y) { return __ocl_zorv_v8_fminf8(x, y); }
+OVERLOAD float16 fmin(float16 x, float16 y) { return __ocl_zorv_v8_fminf16(x, y); }
+
+/* fmin */
+OVERLOAD double fmin(double x, double y) { return __ocl_zorv_v8_fmin1(x, y); }
+OVERLOAD double2 fmin(double2 x, double2 y) { return __ocl_zorv_v8_fmin2(x, y); }
+OVERLOAD double3 fmin(double3 x, double3 y) { return (__ocl_zorv_v8_fmin3(x.xyzz, y.xyzz)).xyz; }
+OVERLOAD double4 fmin(double4 x, double4 y) { return __ocl_zorv_v8_fmin4(x, y); }
+OVERLOAD double8 fmin(double8 x, double8 y) { return __ocl_zorv_v8_fmin8(x, y); }
+OVERLOAD double16 fmin(double16 x, double16 y) { return __ocl_zorv_v8_fmin16(x, y); }
+
+/* fmaxf */
+OVERLOAD float fmax(float x, float y) { return __ocl_zorv_v8_fmaxf1(x, y); }
+OVERLOAD float2 fmax(float2 x, float2 y) { return __ocl_zorv_v8_fmaxf2(x, y); }
+OVERLOAD float3 fmax(float3 x, float3 y) { return (__ocl_zorv_v8_fmaxf3(x.xyzz, y.xyzz)).xyz; }
+OVERLOAD float4 fmax(float4 x, float4 y) { return __ocl_zorv_v8_fmaxf4(x, y); }
+OVERLOAD float8 fmax(float8 x, float8 y) { return __ocl_zorv_v8_fmaxf8(x, y); }
+OVERLOAD float16 fmax(float16 x, float16 y) { return __ocl_zorv_v8_fmaxf16(x, y); }
+
+/* fmax */
+OVERLOAD double fmax(double x, double y) { return __ocl_zorv_v8_fmax1(x, y); }
+OVERLOAD double2 fmax(double2 x, double2 y) { return __ocl_zorv_v8_fmax2(x, y); }
+OVERLOAD double3 fmax(double3 x, double3 y) { return (__ocl_zorv_v8_fmax3(x.xyzz, y.xyzz)).xyz; }
+OVERLOAD double4 fmax(double4 x, double4 y) { return __ocl_zorv_v8_fmax4(x, y); }
+OVERLOAD double8 fmax(double8 x, double8 y) { return __ocl_zorv_v8_fmax8(x, y); }
+OVERLOAD double16 fmax(double16 x, double16 y) { return __ocl_zorv_v8_fmax16(x, y); }
+
+/* maxmagf */
+OVERLOAD float maxmag(float x, float y) { return __ocl_zorv_v8_maxmagf1(x, y); }
+OVERLOAD float2 maxmag(float2 x, float2 y) { return __ocl_zorv_v8_maxmagf2(x, y); }
+OVERLOAD float3 maxmag(float3 x, float3 y) { return (__ocl_zorv_v8_maxmagf3(x.xyzz, y.xyzz)).xyz; }
+OVERLOAD float4 maxmag(float4 x, float4 y) { return __ocl_zorv_v8_maxmagf4(x, y); }
+OVERLOAD float8 maxmag(float8 x, float8 y) { return __ocl_zorv_v8_maxmagf8(x, y); }
+OVERLOAD float16 maxmag(float16 x, float16 y) { return __ocl_zorv_v8_maxmagf16(x, y); }
+
+/* maxmag */
+OVERLOAD double maxmag(double x, double y) { return __ocl_zorv_v8_maxmag1(x, y); }
+OVERLOAD double2 maxmag(double2 x, double2 y) { return __ocl_zorv_v8_maxmag2(x, y); }
+OVERLOAD double3 maxmag(double3 x, double3 y) { return (__ocl_zorv_v8_maxmag3(x.xyzz, y.xyzz)).xyz; }
+OVERLOAD double4 maxmag(double4 x, double4 y) { return __ocl_zorv_v8_maxmag4(x, y); }
+OVERLOAD double8 maxmag(double8 x, double8 y) { return __ocl_zorv_v8_maxmag8(x, y); }
+OVERLOAD double16 maxmag(double16 x, double16 y) { return __ocl_zorv_v8_maxmag16(x, y); }
+
+/* minmagf */
+OVERLOAD float minmag(float x, float y) { return __ocl_zorv_v8_minmagf1(x, y); }
+OVERLOAD float2 minmag(float2 x, float2 y) { return __ocl_zorv_v8_minmagf2(x, y); }
+OVERLOAD float3 minmag(float3 x, float3 y) { return (__ocl_zorv_v8_minmagf3(x.xyzz, y.xyzz)).xyz; }
+OVERLOAD float4 minmag(float4 x, float4 y) { return __ocl_zorv_v8_minmagf4(x, y); }
+OVERLOAD float8 minmag(float8 x, float8 y) { return __ocl_zorv_v8_minmagf8(x, y); }
+OVERLOAD float16 minmag(float16 x, float16 y) { return __ocl_zorv_v8_minmagf16(x, y); }
+
+/* minmag */
+OVERLOAD double minmag(double x, double y) { return __ocl_zorv_v8_minmag1(x, y); }
+OVERLOAD double2 minmag(double2 x, double2 y) { return __ocl_zorv_v8_minmag2(x, y); }
+OVERLOAD double3 minmag(double3 x, double3 y) { return (__ocl_zorv_v8_minmag3(x.xyzz, y.xyzz)).xyz; }
+OVERLOAD double4 minmag(double4 x, double4 y) { return __ocl_zorv_v8_minmag4(x, y); }
+OVERLOAD double8 minmag(double8 x, double8 y) { return __ocl_zorv_v8_minmag8(x, y); }
+OVERLOAD double16 minmag(double16 x, double16 y) { return __ocl_zorv_v8_minmag16(x, y); }
+
+/* fdimf */
+OVERLOAD float fdim(float x, float y) { return __ocl_zorv_v8_fdimf1(x, y); }
+OVERLOAD float2 fdim(float2 x, float2 y) { return __ocl_zorv_v8_fdimf2(x, y); }
+OVERLOAD float3 fdim(float3 x, float3 y) { return (__ocl_zorv_v8_fdimf3(x.xyzz, y.xyzz)).xyz; }
+OVERLOAD float4 fdim(float4 x, float4 y) { return __ocl_zorv_v8_fdimf4(x, y); }
+OVERLOAD float8 fdim(float8 x, float8 y) { return __ocl_zorv_v8_fdimf8(x, y); }
+OVERLOAD float16 fdim(float16 x, float16 y) { return __ocl_zorv_v8_fdimf16(x, y); }
+
+/* fdim */
+OVERLOAD double fdim(double x, double y) { return __ocl_zorv_v8_fdim1(x, y); }
+OVERLOAD double2 fdim(double2 x, double2 y) { return __ocl_zorv_v8_fdim2(x, y); }
+OVERLOAD double3 fdim(double3 x, double3 y) { return (__ocl_zorv_v8_fdim3(x.xyzz, y.xyzz)).xyz; }
+OVERLOAD double4 fdim(double4 x, double4 y) { return __ocl_zorv_v8_fdim4(x, y); }
+OVERLOAD double8 fdim(double8 x, double8 y) { return __ocl_zorv_v8_fdim8(x, y); }
+OVERLOAD double16 fdim(double16 x, double16 y) { return __ocl_zorv_v8_fdim16(x, y); }
+
+/* madf */
+OVERLOAD float mad(float a, float b, float c) { return __ocl_zorv_v8_madf1(a, b, c); }
+OVERLOAD float2 mad(float2 a, float2 b, float2 c) { return __ocl_zorv_v8_madf2(a, b, c); }
+OVERLOAD float3 mad(float3 a, float3 b, float3 c) { return (__ocl_zorv_v8_madf3(a.xyzz, b.xyzz, c.xyzz)).xyz; }
+OVERLOAD float4 mad(float4 a, float4 b, float4 c) { return __ocl_zorv_v8_madf4(a, b, c); }
+OVERLOAD float8 mad(float8 a, float8 b, float8 c) { return __ocl_zorv_v8_madf8(a, b, c); }
+OVERLOAD float16 mad(float16 a, float16 b, float16 c) { return __ocl_zorv_v8_madf16(a, b, c); }
+
+/* mad */
+OVERLOAD double mad(double a, double b, double c) { return __ocl_zorv_v8_mad1(a, b, c); }
+OVERLOAD double2 mad(double2 a, double2 b, double2 c) { return __ocl_zorv_v8_mad2(a, b, c); }
+OVERLOAD double3 mad(double3 a, double3 b, double3 c) { return (__ocl_zorv_v8_mad3(a.xyzz, b.xyzz, c.xyzz)).xyz; }
+OVERLOAD double4 mad(double4 a, double4 b, double4 c) { return __ocl_zorv_v8_mad4(a, b, c); }
+OVERLOAD double8 mad(double8 a, double8 b, double8 c) { return __ocl_zorv_v8_mad8(a, b, c); }
+OVERLOAD double16 mad(double16 a, double16 b, double16 c) { return __ocl_zorv_v8_mad16(a, b, c); }
+
+/* fmaf */
+OVERLOAD float fma(float a, float b, float c) { return __ocl_zorv_v8_fmaf1(a, b, c); }
+OVERLOAD float2 fma(float2 a, float2 b, float2 c) { return __ocl_zorv_v8_fmaf2(a, b, c); }
+OVERLOAD float3 fma(float3 a, float3 b, float3 c) { return (__ocl_zorv_v8_fmaf3(a.xyzz, b.xyzz, c.xyzz)).xyz; }
+OVERLOAD float4 fma(float4 a, float4 b, float4 c) { return __ocl_zorv_v8_fmaf4(a, b, c); }
+OVERLOAD float8 fma(float8 a, float8 b, float8 c) { return __ocl_zorv_v8_fmaf8(a, b, c); }
+OVERLOAD float16 fma(float16 a, float16 b, float16 c) { return __ocl_zorv_v8_fmaf16(a, b, c); }
+
+/* fma */
+OVERLOAD double fma(double a, double b, double c) { return __ocl_zorv_v8_fma1(a, b, c); }
+OVERLOAD double2 fma(double2 a, double2 b, double2 c) { return __ocl_zorv_v8_fma2(a, b, c); }
+OVERLOAD double3 fma(double3 a, double3 b, double3 c) { return (__ocl_zorv_v8_fma3(a.xyzz, b.xyzz, c.xyzz)).xyz; }
+OVERLOAD double4 fma(double4 a, double4 b, double4 c) { return __ocl_zorv_v8_fma4(a, b, c); }
+OVERLOAD double8 fma(double8 a, double8 b, double8 c) { return __ocl_zorv_v8_fma8(a, b, c); }
+OVERLOAD double16 fma(double16 a, double16 b, double16 c) { return __ocl_zorv_v8_fma16(a, b, c); }
+
+/* ceilf */
+OVERLOAD float ceil(float x) { return __ocl_zorv_v8_ceilf1(x); }
+OVERLOAD float2 ceil(float2 x) { return __ocl_zorv_v8_ceilf2(x); }
+OVERLOAD float3 ceil(float3 x) { return (__ocl_zorv_v8_ceilf3(x.xyzz)).xyz; }
+OVERLOAD float4 ceil(float4 x) { return __ocl_zorv_v8_ceilf4(x); }
+OVERLOAD float8 ceil(float8 x) { return __ocl_zorv_v8_ceilf8(x); }
+OVERLOAD float16 ceil(float16 x) { return __ocl_zorv_v8_ceilf16(x); }
+
+/* ceil */
+OVERLOAD double ceil(double x) { return __ocl_zorv_v8_ceil1(x); }
+OVERLOAD double2 ceil(double2 x) { return __ocl_zorv_v8_ceil2(x); }
+OVERLOAD double3 ceil(double3 x) { return (__ocl_zorv_v8_ceil3(x.xyzz)).xyz; }
+OVERLOAD double4 ceil(double4 x) { return __ocl_zorv_v8_ceil4(x); }
+OVERLOAD double8 ceil(double8 x) { return __ocl_zorv_v8_ceil8(x); }
+OVERLOAD double16 ceil(double16 x) { return __ocl_zorv_v8_ceil16(x); }
+
+/* floorf */
+OVERLOAD float floor(float x) { return __ocl_zorv_v8_floorf1(x); }
+OVERLOAD float2 floor(float2 x) { return __ocl_zorv_v8_floorf2(x); }
+OVERLOAD float3 floor(float3 x) { return (__ocl_zorv_v8_floorf3(x.xyzz)).xyz; }
+OVERLOAD float4 floor(float4 x) { return __ocl_zorv_v8_floorf4(x); }
+OVERLOAD float8 floor(float8 x) { return __ocl_zorv_v8_floorf8(x); }
+OVERLOAD float16 floor(float16 x) { return __ocl_zorv_v8_floorf16(x); }
+
+/* floor */
+OVERLOAD double floor(double x) { return __ocl_zorv_v8_floor1(x); }
+OVERLOAD double2 floor(double2 x) { return __ocl_zorv_v8_floor2(x); }
+OVERLOAD double3 floor(double3 x) { return (__ocl_zorv_v8_floor3(x.xyzz)).xyz; }
+OVERLOAD double4 floor(double4 x) { return __ocl_zorv_v8_floor4(x); }
+OVERLOAD double8 floor(double8 x) { return __ocl_zorv_v8_floor8(x); }
+OVERLOAD double16 floor(double16 x) { return __ocl_zorv_v8_floor16(x); }
+
+/* roundf */
+OVERLOAD float round(float x) { return __ocl_zorv_v8_roundf1(x); }
+OVERLOAD float2 round(float2 x) { return __ocl_zorv_v8_roundf2(x); }
+OVERLOAD float3 round(float3 x) { return (__ocl_zorv_v8_roundf3(x.xyzz)).xyz; }
+OVERLOAD float4 round(float4 x) { return __ocl_zorv_v8_roundf4(x); }
+OVERLOAD float8 round(float8 x) { return __ocl_zorv_v8_roundf8(x); }
+OVERLOAD float16 round(float16 x) { return __ocl_zorv_v8_roundf16(x); }
+
+/* round */
+OVERLOAD double round(double x) { return __ocl_zorv_v8_round1(x); }
+OVERLOAD double2 round(double2 x) { return __ocl_zorv_v8_round2(x); }
+OVERLOAD double3 round(double3 x) { return (__ocl_zorv_v8_round3(x.xyzz)).xyz; }
+OVERLOAD double4 round(double4 x) { return __ocl_zorv_v8_round4(x); }
+OVERLOAD double8 round(double8 x) { return __ocl_zorv_v8_round8(x); }
+OVERLOAD double16 round(double16 x) { return __ocl_zorv_v8_round16(x); }
+
+/* truncf */
+OVERLOAD float trunc(float x) { return __ocl_zorv_v8_truncf1(x); }
+OVERLOAD float2 trunc(float2 x) { return __ocl_zorv_v8_truncf2(x); }
+OVERLOAD float3 trunc(float3 x) { return (__ocl_zorv_v8_truncf3(x.xyzz)).xyz; }
+OVERLOAD float4 trunc(float4 x) { return __ocl_zorv_v8_truncf4(x); }
+OVERLOAD float8 trunc(float8 x) { return __ocl_zorv_v8_truncf8(x); }
+OVERLOAD float16 trunc(float16 x) { return __ocl_zorv_v8_truncf16(x); }
+
+/* trunc */
+OVERLOAD double trunc(double x) { return __ocl_zorv_v8_trunc1(x); }
+OVERLOAD double2 trunc(double2 x) { return __ocl_zorv_v8_trunc2(x); }
+OVERLOAD double3 trunc(double3 x) { return (__ocl_zorv_v8_trunc3(x.xyzz)).xyz; }
+OVERLOAD double4 trunc(double4 x) { return __ocl_zorv_v8_trunc4(x); }
+OVERLOAD double8 trunc(double8 x) { return __ocl_zorv_v8_trunc8(x); }
+OVERLOAD double16 trunc(double16 x) { return __ocl_zorv_v8_trunc16(x); }
+
+/* rintf */
+OVERLOAD float rint(float x) { return __ocl_zorv_v8_rintf1(x); }
+OVERLOAD float2 rint(float2 x) { return __ocl_zorv_v8_rintf2(x); }
+OVERLOAD float3 rint(float3 x) { return (__ocl_zorv_v8_rintf3(x.xyzz)).xyz; }
+OVERLOAD float4 rint(float4 x) { return __ocl_zorv_v8_rintf4(x); }
+OVERLOAD float8 rint(float8 x) { return __ocl_zorv_v8_rintf8(x); }
+OVERLOAD float16 rint(float16 x) { return __ocl_zorv_v8_rintf16(x); }
+
+/* rint */
+OVERLOAD double rint(double x) { return __ocl_zorv_v8_rint1(x); }
+OVERLOAD double2 rint(double2 x) { return __ocl_zorv_v8_rint2(x); }
+OVERLOAD double3 rint(double3 x) { return (__ocl_zorv_v8_rint3(x.xyzz)).xyz; }
+OVERLOAD double4 rint(double4 x) { return __ocl_zorv_v8_rint4(x); }
+OVERLOAD double8 rint(double8 x) { return __ocl_zorv_v8_rint8(x); }
+OVERLOAD double16 rint(double16 x) { return __ocl_zorv_v8_rint16(x); }
+
+/* modff */
+OVERLOAD float modf(float x, private float *pointer) {
+    float second;
+    float first = __ocl_zorv_v8_modff1(x, &second);
+    *pointer = second;
+    return first;
+}
+OVERLOAD float modf(float x, local float *pointer) {
+    float second;
+    float first = __ocl_zorv_v8_modff1(x, &second);
+    *pointer = second;
+    return first;
+}
+OVERLOAD float modf(float x, global float *pointer) {
+    float second;
+    float first = __ocl_zorv_v8_modff1(x, &second);
+    *pointer = second;
+    return first;
+}
+OVERLOAD float2 modf(float2 x, private float2 *pointer) {
+    float2 second;
+    float2 first = __ocl_zorv_v8_modff2(x, &second);
+    *pointer = second;
+    return first;
+}
+OVERLOAD float2 modf(float2 x, local float2 *pointer) {
+    float2 second;
+    float2 first = __ocl_zorv_v8_modff2(x, &second);
+    *pointer = second;
+    return first;
+}
+OVERLOAD float2 modf(float2 x, global float2 *pointer) {
+    float2 second;
+    float2 first = __ocl_zorv_v8_modff2(x, &second);
+    *pointer = second;
+    return first;
+}
+OVERLOAD float3 modf(float3 x, private float3 *pointer) {
+    float4 second;
+    float3 first = (__ocl_zorv_v8_modff3(x.xyzz, &second)).xyz;
+    *pointer = second.xyz;
+    return first;
+}
+OVERLOAD float3 modf(float3 x, local float3 *pointer) {
+    float4 second;
+    float3 first = (__ocl_zorv_v8_modff3(x.xyzz, &second)).xyz;
+    *pointer = second.xyz;
+    return first;
+}
+OVERLOAD float3 modf(float3 x, global float3 *pointer) {
+    float4 second;
+    float3 first = (__ocl_zorv_v8_modff3(x.xyzz, &second)).xyz;
+    *pointer = second.xyz;
+    return first;
+}
+OVERLOAD float4 modf(float4 x, private float4 *pointer) {
+    float4 second;
+    float4 first = __ocl_zorv_v8_modff4(x, &second);
+    *pointer = second;
+    return first;
+}
+OVERLOAD float4 modf(float4 x, local float4 *pointer) {
+    float4 second;
+    float4 first = __ocl_zorv_v8_modff4(x, &second);
+    *pointer = second;
+    return first;
+}
+OVERLOAD float4 modf(float4 x, global float4 *pointer) {
+    float4 second;
+    float4 first = __ocl_zorv_v8_modff4(x, &second);
+    *pointer = second;
+    return first;
+}
+OVERLOAD float8 modf(float8 x, private float8 *pointer) {
+    float8 second;
+    float8 first = __ocl_zorv_v8_modff8(x, &second);
+    *pointer = second;
+    return first;
+}
+OVERLOAD float8 modf(float8 x, local float8 *pointer) {
+    float8 second;
+    float8 first = __ocl_zorv_v8_modff8(x, &second);
+    *pointer = second;
+    return first;
+}
+OVERLOAD float8 modf(float8 x, global float8 *pointer) {
+    float8 second;
+    float8 first = __ocl_zorv_v8_modff8(x, &second);
+    *pointer = second;
+    return first;
+}
+OVERLOAD float16 modf(float16 x, private float16 *pointer) {
+    float16 second;
+    float16 first = __ocl_zorv_v8_modff16(x, &second);
+    *pointer = second;
+    return first;
+}
+OVERLOAD float16 modf(float16 x, local float16 *pointer) {
+    float16 second;
+    float16 first = __ocl_zorv_v8_modff16(x, &second);
+    *pointer = second;
+    return first;
+}
+OVERLOAD float16 modf(float16 x, global float16 *pointer) {
+    float16 second;
+    float16 first = __ocl_zorv_v8_modff16(x, &second);
+    *pointer = second;
+    return first;
+}
+
+/* modf */
+OVERLOAD double modf(double x, private double *pointer) {
+    double second;
+    double first = __ocl_zorv_v8_modf1(x, &second);
+    *pointer = second;
+    return first;
+}
+OVERLOAD double modf(double x, local double *pointer) {
+    double second;
+    double first = __ocl_zorv_v8_modf1(x, &second);
+    *pointer = second;
+    return first;
+}
+OVERLOAD double modf(double x, global double *pointer) {
+    double second;
+    double first = __ocl_zorv_v8_modf1(x, &second);
+    *pointer = second;
+    return first;
+}
+OVERLOAD double2 modf(double2 x, private double2 *pointer) {
+    double2 second;
+    double2 first = __ocl_zorv_v8_modf2(x, &second);
+    *pointer = second;
+    return first;
+}
+OVERLOAD double2 modf(double2 x, local double2 *pointer) {
+    double2 second;
+    double2 first = __ocl_zorv_v8_modf2(x, &second);
+    *pointer = second;
+    return first;
+}
+OVERLOAD double2 modf(double2 x, global double2 *pointer) {
+    double2 second;
+    double2 first = __ocl_zorv_v8_modf2(x, &second);
+    *pointer = second;
+    return first;
+}
+OVERLOAD double3 modf(double3 x, private double3 *pointer) {
+    double4 second;
+    double3 first = (__ocl_zorv_v8_modf3(x.xyzz, &second)).xyz;
+    *pointer = second.xyz;
+    return first;
+}
+OVERLOAD double3 modf(double3 x, local double3 *pointer) {
+    double4 second;
+    double3 first = (__ocl_zorv_v8_modf3(x.xyzz, &second)).xyz;
+    *pointer = second.xyz;
+    return first;
+}
+OVERLOAD double3 modf(double3 x, global double3 *pointer) {
+    double4 second;
+    double3 first = (__ocl_zorv_v8_modf3(x.xyzz, &second)).xyz;
+    *pointer = second.xyz;
+    return first;
+}
+OVERLOAD double4 modf(double4 x, private double4 *pointer) {
+    double4 second;
+    double4 first = __ocl_zorv_v8_modf4(x, &second);
+    *pointer = second;
+    return first;
+}
+OVERLOAD double4 modf(double4 x, local double4 *pointer) {
+    double4 second;
+    double4 first = __ocl_zorv_v8_modf4(x, &second);
+    *pointer = second;
+    return first;
+}
+OVERLOAD double4 modf(double4 x, global double4 *pointer) {
+    double4 second;
+    double4 first = __ocl_zorv_v8_modf4(x, &second);
+    *pointer = second;
+    return first;
+}
+OVERLOAD double8 modf(double8 x, private double8 *pointer) {
+    double8 second;
+    double8 first = __ocl_zorv_v8_modf8(x, &second);
+    *pointer = second;
+    return first;
+}
+OVERLOAD double8 modf(double8 x, local double8 *pointer) {
+    double8 second;
+    double8 first = __ocl_zorv_v8_modf8(x, &second);
+    *pointer = second;
+    return first;
+}
+OVERLOAD double8 modf(double8 x, global double8 *pointer) {
+    double8 second;
+    double8 first = __ocl_zorv_v8_modf8(x, &second);
+    *pointer = second;
+    return first;
+}
+OVERLOAD double16 modf(double16 x, private double16 *pointer) {
+    double16 second;
+    double16 first = __ocl_zorv_v8_modf16(x, &second);
+    *pointer = second;
+    return first;
+}
+OVERLOAD double16 modf(double16 x, local double16 *pointer) {
+    double16 second;
+    double16 first = __ocl_zorv_v8_modf16(x, &second);
+    *pointer = second;
+    return first;
+}
+OVERLOAD double16 modf(double16 x, global double16 *pointer) {
+    double16 second;
+    double16 first = __ocl_zorv_v8_modf16(x, &second);
+    *pointer = second;
+    return first;
+}
+
+/* fractf */
+OVERLOAD float fract(float x, private float *pointer) {
+    float second;
+    float first = __ocl_zorv_v8_fractf1(x, &second);
+    *pointer = second;
+    return first;
+}
+OVERLOAD float fract(float x, local float *pointer) {
+    float second;
+    float first = __ocl_zorv_v8_fractf1(x, &second);
+    *pointer = second;
+    return first;
+}
+OVERLOAD float fract(float x, global float *pointer) {
+    float second;
+    float first = __ocl_zorv_v8_fractf1(x, &second);
+    *pointer = second;
+    return first;
+}
+OVERLOAD float2 fract(float2 x, private float2 *pointer) {
+    float2 second;
+    float2 first = __ocl_zorv_v8_fractf2(x, &second);
+    *pointer = second;
+    return first;
+}
+OVERLOAD float2 fract(float2 x, local float2 *pointer) {
+    float2 second;
+    float2 first = __ocl_zorv_v8_fractf2(x, &second);
+    *pointer = second;
+    return first;
+}
+OVERLOAD float2 fract(float2 x, global float2 *pointer) {
+    float2 second;
+    float2 first = __ocl_zorv_v8_fractf2(x, &second);
+    *pointer = second;
+    return first;
+}
+OVERLOAD float3 fract(float3 x, private float3 *pointer) {
+    float4 second;
+    float3 first = (__ocl_zorv_v8_fractf3(x.xyzz, &second)).xyz;
+    *pointer = second.xyz;
+    return first;
+}
+OVERLOAD float3 fract(float3 x, local float3 *pointer) {
+    float4 second;
+    float3 first = (__ocl_zorv_v8_fractf3(x.xyzz, &second)).xyz;
+    *pointer = second.xyz;
+    return first;
+}
+OVERLOAD float3 fract(float3 x, global float3 *pointer) {
+    float4 second;
+    float3 first = (__ocl_zorv_v8_fractf3(x.xyzz, &second)).xyz;
+    *pointer = second.xyz;
+    return first;
+}
+OVERLOAD float4 fract(float4 x, private float4 *pointer) {
+    float4 second;
+    float4 first = __ocl_zorv_v8_fractf4(x, &second);
+    *pointer = second;
+    return first;
+}
+OVERLOAD float4 fract(float4 x, local float4 *pointer) {
+    float4 second;
+    float4 first = __ocl_zorv_v8_fractf4(x, &second);
+    *pointer = second;
+    return first;
+}
+OVERLOAD float4 fract(float4 x, global float4 *pointer) {
+    float4 second;
+    float4 first = __ocl_zorv_v8_fractf4(x, &second);
+    *pointer = second;
+    return first;
+}
+OVERLOAD float8 fract(float8 x, private float8 *pointer) {
+    float8 second;
+    float8 first = __ocl_zorv_v8_fractf8(x, &second);
+    *pointer = second;
+    return first;
+}
+OVERLOAD float8 fract(float8 x, local float8 *pointer) {
+    float8 second;
+    float8 first = __ocl_zorv_v8_fractf8(x, &second);
+    *pointer = second;
+    return first;
+}
+OVERLOAD float8 fract(float8 x, global float8 *pointer) {
+    float8 second;
+    float8 first = __ocl_zorv_v8_fractf8(x, &second);
+    *pointer = second;
+    return first;
+}
+OVERLOAD float16 fract(float16 x, private float16 *pointer) {
+    float16 second;
+    float16 first = __ocl_zorv_v8_fractf16(x, &second);
+    *pointer = second;
+    return first;
+}
+OVERLOAD float16 fract(float16 x, local float16 *pointer) {
+    float16 second;
+    float16 first = __ocl_zorv_v8_fractf16(x, &second);
+    *pointer = second;
+    return first;
+}
+OVERLOAD float16 fract(float16 x, global float16 *pointer) {
+    float16 second;
+    float16 first = __ocl_zorv_v8_fractf16(x, &second);
+    *pointer = second;
+    return first;
+}
+
+/* fract */
+OVERLOAD double fract(double x, private double *pointer) {
+    double second;
+    double first = __ocl_zorv_v8_fract1(x, &second);
+    *pointer = second;
+    return first;
+}
+OVERLOAD double fract(double x, local double *pointer) {
+    double second;
+    double first = __ocl_zorv_v8_fract1(x, &second);
+    *pointer = second;
+    return first;
+}
+OVERLOAD double fract(double x, global double *pointer) {
+    double second;
+    double first = __ocl_zorv_v8_fract1(x, &second);
+    *pointer = second;
+    return first;
+}
+OVERLOAD double2 fract(double2 x, private double2 *pointer) {
+    double2 second;
+    double2 first = __ocl_zorv_v8_fract2(x, &second);
+    *pointer = second;
+    return first;
+}
+OVERLOAD double2 fract(double2 x, local double2 *pointer) {
+    double2 second;
+    double2 first = __ocl_zorv_v8_fract2(x, &second);
+    *pointer = second;
+    return first;
+}
+OVERLOAD double2 fract(double2 x, global double2 *pointer) {
+    double2 second;
+    double2 first = __ocl_zorv_v8_fract2(x, &second);
+    *pointer = second;
+    return first;
+}
+OVERLOAD double3 fract(double3 x, private double3 *pointer) {
+    double4 second;
+    double3 first = (__ocl_zorv_v8_fract3(x.xyzz, &second)).xyz;
+    *pointer = second.xyz;
+    return first;
+}
+OVERLOAD double3 fract(double3 x, local double3 *pointer) {
+    double4 second;
+    double3 first = (__ocl_zorv_v8_fract3(x.xyzz, &second)).xyz;
+    *pointer = second.xyz;
+    return first;
+}
+OVERLOAD double3 fract(double3 x, global double3 *pointer) {
+    double4 second;
+    double3 first = (__ocl_zorv_v8_fract3(x.xyzz, &second)).xyz;
+    *pointer = second.xyz;
+    return first;
+}
+OVERLOAD double4 fract(double4 x, private double4 *pointer) {
+    double4 second;
+    double4 first = __ocl_zorv_v8_fract4(x, &second);
+    *pointer = second;
+    return first;
+}
+OVERLOAD double4 fract(double4 x, local double4 *pointer) {
+    double4 second;
+    double4 first = __ocl_zorv_v8_fract4(x, &second);
+    *pointer = second;
+    return first;
+}
+OVERLOAD double4 fract(double4 x, global double4 *pointer) {
+    double4 second;
+    double4 first = __ocl_zorv_v8_fract4(x, &second);
+    *pointer = second;
+    return first;
+}
+OVERLOAD double8 fract(double8 x, private double8 *pointer) {
+    double8 second;
+    double8 first = __ocl_zorv_v8_fract8(x, &second);
+    *pointer = second;
+    return first;
+}
+OVERLOAD double8 fract(double8 x, local double8 *pointer) {
+    double8 second;
+    double8 first = __ocl_zorv_v8_fract8(x, &second);
+    *pointer = second;
+    return first;
+}
+OVERLOAD double8 fract(double8 x, global double8 *pointer) {
+    double8 second;
+    double8 first = __ocl_zorv_v8_fract8(x, &second);
+    *pointer = second;
+    return first;
+}
+OVERLOAD double16 fract(double16 x, private double16 *pointer) {
+    double16 second;
+    double16 first = __ocl_zorv_v8_fract16(x, &second);
+    *pointer = second;
+    return first;
+}
+OVERLOAD double16 fract(double16 x, local double16 *pointer) {
+    double16 second;
+    double16 first = __ocl_zorv_v8_fract16(x, &second);
+    *pointer = second;
+    return first;
+}
+OVERLOAD double16 fract(double16 x, global double16 *pointer) {
+    double16 second;
+    double16 first = __ocl_zorv_v8_fract16(x, &second);
+    *pointer = second;
+    return first;
+}
+
 /* expf */
 OVERLOAD float exp(float x) { return __ocl_zorv_v8_expf1(x); }
 OVERLOAD float2 exp(float2 x) { return __ocl_zorv_v8_expf2(x); }

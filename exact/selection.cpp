@@ -1,0 +1,152 @@
+// fabs, copysign, nan, fmin, fmax, maxmag, minmag, fdim and mad: a few logical or compare instructions each. All
+// exact but mad, which rounds its product and its sum. Where an operand can be NaN the order of the hardware's
+// operands is part of the result.
+#include "data/exact.h"
+#include "exact/special.h"
+#include "frame/lane_frame.h"
+
+namespace zorv {
+namespace {
+
+// ---- Bits alone: a NaN is a pattern like any other. --------------------------------------------------------
+
+template <class Unit>
+struct Sign;
+template <>
+struct Sign<F4> {
+    static constexpr I4 bit = {INT32_MIN, INT32_MIN, INT32_MIN, INT32_MIN};
+};
+template <>
+struct Sign<D2> {
+    static constexpr L2 bit = {INT64_MIN, INT64_MIN};
+};
+
+template <class Unit>
+struct Fabs {
+    static Unit main(Unit x) { return clear_bits(x, Sign<Unit>::bit); }
+};
+using fabsf = Fabs<F4>;
+using fabs = Fabs<D2>;
+
+template <class Unit>
+struct CopySign {
+    static Unit main(Unit x, Unit y) {
+        return or_bits(clear_bits(x, Sign<Unit>::bit), bits(y) & Sign<Unit>::bit);
+    }
+};
+using copysignf = CopySign<F4>;
+using copysign = CopySign<D2>;
+
+// A quiet NaN with the code in its payload; bits of the code above the payload stay.
+struct nanf {
+    static constexpr int fill = 0;
+    static F4 main(U4 code) { return as_float(code | 0x7fc00000u); }
+};
+struct nan {
+    static constexpr int fill = 0;
+    static D2 main(UL2 code) { return as_double(code | 0x7ff8000000000000u); }
+};
+
+// ---- Minima and maxima. ------------------------------------------------------------------------------------
+
+// The operand that is a number; of two NaN the second. Infinities are compared as they should be by the main path,
+// whose value stays.
+template <class Float>
+Status other_than_nan(const Float* x, const Float* y, Float* result) {
+    if (*y != *y)
+        *result = *x;
+    if (*x != *x)
+        *result = *y;
+    return RARE_OK;
+}
+
+// The hardware's operation gives its second operand where the two are equal: of +0 and -0 the second.
+template <class Unit, const auto& record>
+struct Fmin {
+    static Lanes<Unit> main(Unit x, Unit y) {
+        const auto& data = in_memory(record);
+        return {hardware_min(x, y), is_special(x, data) | is_special(y, data)};
+    }
+    static constexpr auto rare = other_than_nan<typename Layout<Unit>::Lane>;
+};
+using fminf = Fmin<F4, fminf_data>;
+using fmin = Fmin<D2, fmin_data>;
+
+template <class Unit, const auto& record>
+struct Fmax {
+    static Lanes<Unit> main(Unit x, Unit y) {
+        const auto& data = in_memory(record);
+        return {hardware_max(x, y), is_special(x, data) | is_special(y, data)};
+    }
+    static constexpr auto rare = other_than_nan<typename Layout<Unit>::Lane>;
+};
+using fmaxf = Fmax<F4, fmaxf_data>;
+using fmax = Fmax<D2, fmax_data>;
+
+// By magnitude; of equal magnitudes the larger signed value, of two zeros x.
+template <class Unit, const auto& record>
+struct Maxmag {
+    static Lanes<Unit> main(Unit x, Unit y) {
+        const auto& data = in_memory(record);
+        Unit ax = clear_bits(x, data.sign);
+        Unit ay = clear_bits(y, data.sign);
+        Unit larger = select(ay < ax, x, y);
+        return {select(ax == ay, hardware_max(y, x), larger), is_special(x, data) | is_special(y, data)};
+    }
+    static constexpr auto rare = other_than_nan<typename Layout<Unit>::Lane>;
+};
+using maxmagf = Maxmag<F4, maxmagf_data>;
+using maxmag = Maxmag<D2, maxmag_data>;
+
+// By magnitude; of equal magnitudes the smaller signed value, of two zeros x.
+template <class Unit, const auto& record>
+struct Minmag {
+    static Lanes<Unit> main(Unit x, Unit y) {
+        const auto& data = in_memory(record);
+        Unit ax = clear_bits(x, data.sign);
+        Unit ay = clear_bits(y, data.sign);
+        Unit smaller = select(ax < ay, x, y);
+        return {select(ax == ay, hardware_min(y, x), smaller), is_special(x, data) | is_special(y, data)};
+    }
+    static constexpr auto rare = other_than_nan<typename Layout<Unit>::Lane>;
+};
+using minmagf = Minmag<F4, minmagf_data>;
+using minmag = Minmag<D2, minmag_data>;
+
+// ---- fdim: how far x stands above y. -----------------------------------------------------------------------
+
+// A NaN operand; of two the second.
+template <class Float>
+Status fdim_rare(const Float* x, const Float* y, Float* result) {
+    if (*x != *x)
+        *result = *x;
+    if (*y != *y)
+        *result = *y;
+    return RARE_OK;
+}
+
+template <class Unit, const auto& record>
+struct Fdim {
+    static Lanes<Unit> main(Unit x, Unit y) {
+        const auto& data = in_memory(record);
+        return {and_bits(x - y, y < x), is_special(x, data) | is_special(y, data)};
+    }
+    static constexpr auto rare = fdim_rare<typename Layout<Unit>::Lane>;
+};
+using fdimf = Fdim<F4, fdimf_data>;
+using fdim = Fdim<D2, fdim_data>;
+
+// ---- mad: two roundings, on purpose; fma has one. ----------------------------------------------------------
+
+template <class Unit>
+struct Mad {
+    static Unit main(Unit a, Unit b, Unit c) { return a * b + c; }
+};
+using madf = Mad<F4>;
+using mad = Mad<D2>;
+
+}  // namespace
+}  // namespace zorv
+
+#define HOME_selection , here
+#include "frame/exports.h"
