@@ -15,6 +15,18 @@ RoundingMode x87_rounding_mode() {
     return static_cast<RoundingMode>(control & mode_field);
 }
 
+// a * b + c in two roundings. Of several NaN the first goes through, so the operands keep their order.
+float multiply_and_add(float a, float b, float c) {
+    asm("mulss %1, %0" : "+x"(a) : "x"(b));
+    asm("addss %1, %0" : "+x"(a) : "x"(c));
+    return a;
+}
+double multiply_and_add(double a, double b, double c) {
+    asm("mulsd %1, %0" : "+x"(a) : "x"(b));
+    asm("addsd %1, %0" : "+x"(a) : "x"(c));
+    return a;
+}
+
 // Arithmetic done for its flags.
 template <class Scalar>
 void discard(Scalar value) {
@@ -86,23 +98,22 @@ Float with_sign(typename F::Word sign, typename F::Word magnitude) {
     return __builtin_bit_cast(Float, static_cast<typename F::Word>(sign << (8 * sizeof(Float) - 1) | magnitude));
 }
 
-// (-1)^sign * top * 2^(exponent - ...): the leading one stands in the top bit of `top`, what is inexact below it
-// has left a one in the lowest bit, and `exponent` is biased.
+// The number of this sign whose leading one stands in the top bit of `top` and weighs 2^exponent, biased. What was
+// inexact further down has left a one in the lowest bit.
 template <class Float, class F = Format<Float>>
 Float round_and_pack(typename F::Word sign, int exponent, typename F::Word top) {
     using Word = typename F::Word;
     constexpr int word_bits = 8 * sizeof(Word);
     constexpr int extra_bits = word_bits - F::mantissa_bits - 1;
-    constexpr int largest_exponent = 2 * F::bias;
 
-    if (__builtin_expect(exponent > largest_exponent, 0)) return with_sign<Float>(sign, F::infinity);
     bool subnormal = exponent < 1;
     if (__builtin_expect(subnormal, 0)) {
         int k = 1 - exponent;
         top = shift_right_sticky(top, static_cast<unsigned>(k < word_bits ? k : word_bits - 1));
         exponent = 1;
     }
-    // The implicit bit, where there is one, counts the exponent up from one below.
+    // The implicit bit, where there is one, counts the exponent up from one below. Exponents reach half as far again
+    // as the field, which the word still holds: too large a number shows as a pattern beyond infinity.
     Word magnitude = (top >> extra_bits) + (static_cast<Word>(exponent - 1) << F::mantissa_bits);
     Word round_word = top << (word_bits - extra_bits);
     if (round_word != 0) {
@@ -159,13 +170,13 @@ Status fma_rare(const Float* operand_a, const Float* operand_b, const Float* ope
     if (zero_or_special(magnitude_a) || zero_or_special(magnitude_b) || zero_or_special(magnitude_c) ||
         magnitude_a == F::one || magnitude_b == F::one) {
         if (magnitude_a > F::infinity || magnitude_b > F::infinity)
-            *result = a * b + c;
+            *result = multiply_and_add(a, b, c);
         else if (magnitude_c > F::infinity)
             *result = a + c;  // the NaN that was given, even where the product is infinity times zero
         else if (magnitude_c == F::infinity && !zero_or_special(magnitude_a) && !zero_or_special(magnitude_b))
             *result = c;  // no matter how large the product
         else
-            *result = a * b + c;
+            *result = multiply_and_add(a, b, c);
         return RARE_OK;
     }
 

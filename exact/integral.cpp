@@ -60,9 +60,7 @@ using round = Round<D2, round_data>;
 
 // ---- modf: fractional part, and through the pointer the integral part. -------------------------------------
 
-float zero_with_sign(float x) {
-    return __builtin_bit_cast(float, __builtin_bit_cast(uint32_t, x) & 0x80000000);
-}
+float zero_with_sign(float x) { return __builtin_bit_cast(float, __builtin_bit_cast(uint32_t, x) & 0x80000000); }
 double zero_with_sign(double x) {
     return __builtin_bit_cast(double, __builtin_bit_cast(uint64_t, x) & 0x8000000000000000);
 }

@@ -1,6 +1,9 @@
 // fabs, copysign, nan, fmin, fmax, maxmag, minmag, fdim and mad: a few logical or compare instructions each. All
 // exact but mad, which rounds its product and its sum. Where an operand can be NaN the order of the hardware's
 // operands is part of the result.
+//
+// The records hold one or two integers, which all units of a call share in registers: kernels this short would pay
+// for a memory operand in each unit.
 #include "data/exact.h"
 #include "exact/special.h"
 #include "frame/lane_frame.h"
@@ -30,9 +33,7 @@ using fabs = Fabs<D2>;
 
 template <class Unit>
 struct CopySign {
-    static Unit main(Unit x, Unit y) {
-        return or_bits(clear_bits(x, Sign<Unit>::bit), bits(y) & Sign<Unit>::bit);
-    }
+    static Unit main(Unit x, Unit y) { return or_bits(clear_bits(x, Sign<Unit>::bit), bits(y) & Sign<Unit>::bit); }
 };
 using copysignf = CopySign<F4>;
 using copysign = CopySign<D2>;
@@ -53,10 +54,8 @@ struct nan {
 // whose value stays.
 template <class Float>
 Status other_than_nan(const Float* x, const Float* y, Float* result) {
-    if (*y != *y)
-        *result = *x;
-    if (*x != *x)
-        *result = *y;
+    if (*y != *y) *result = *x;
+    if (*x != *x) *result = *y;
     return RARE_OK;
 }
 
@@ -64,7 +63,7 @@ Status other_than_nan(const Float* x, const Float* y, Float* result) {
 template <class Unit, const auto& record>
 struct Fmin {
     static Lanes<Unit> main(Unit x, Unit y) {
-        const auto& data = in_memory(record);
+        const auto& data = record;
         return {hardware_min(x, y), is_special(x, data) | is_special(y, data)};
     }
     static constexpr auto rare = other_than_nan<typename Layout<Unit>::Lane>;
@@ -75,7 +74,7 @@ using fmin = Fmin<D2, fmin_data>;
 template <class Unit, const auto& record>
 struct Fmax {
     static Lanes<Unit> main(Unit x, Unit y) {
-        const auto& data = in_memory(record);
+        const auto& data = record;
         return {hardware_max(x, y), is_special(x, data) | is_special(y, data)};
     }
     static constexpr auto rare = other_than_nan<typename Layout<Unit>::Lane>;
@@ -87,7 +86,7 @@ using fmax = Fmax<D2, fmax_data>;
 template <class Unit, const auto& record>
 struct Maxmag {
     static Lanes<Unit> main(Unit x, Unit y) {
-        const auto& data = in_memory(record);
+        const auto& data = record;
         Unit ax = clear_bits(x, data.sign);
         Unit ay = clear_bits(y, data.sign);
         Unit larger = select(ay < ax, x, y);
@@ -102,7 +101,7 @@ using maxmag = Maxmag<D2, maxmag_data>;
 template <class Unit, const auto& record>
 struct Minmag {
     static Lanes<Unit> main(Unit x, Unit y) {
-        const auto& data = in_memory(record);
+        const auto& data = record;
         Unit ax = clear_bits(x, data.sign);
         Unit ay = clear_bits(y, data.sign);
         Unit smaller = select(ax < ay, x, y);
@@ -118,17 +117,15 @@ using minmag = Minmag<D2, minmag_data>;
 // A NaN operand; of two the second.
 template <class Float>
 Status fdim_rare(const Float* x, const Float* y, Float* result) {
-    if (*x != *x)
-        *result = *x;
-    if (*y != *y)
-        *result = *y;
+    if (*x != *x) *result = *x;
+    if (*y != *y) *result = *y;
     return RARE_OK;
 }
 
 template <class Unit, const auto& record>
 struct Fdim {
     static Lanes<Unit> main(Unit x, Unit y) {
-        const auto& data = in_memory(record);
+        const auto& data = record;
         return {and_bits(x - y, y < x), is_special(x, data) | is_special(y, data)};
     }
     static constexpr auto rare = fdim_rare<typename Layout<Unit>::Lane>;
@@ -138,9 +135,10 @@ using fdim = Fdim<D2, fdim_data>;
 
 // ---- mad: two roundings, on purpose; fma has one. ----------------------------------------------------------
 
+// Of several NaN the first of a, b, c goes through.
 template <class Unit>
 struct Mad {
-    static Unit main(Unit a, Unit b, Unit c) { return a * b + c; }
+    static Unit main(Unit a, Unit b, Unit c) { return add_in_order(multiply_in_order(a, b), c); }
 };
 using madf = Mad<F4>;
 using mad = Mad<D2>;
