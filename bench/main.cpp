@@ -42,7 +42,7 @@ void compare(benchmark::State& state, const grid::Family& family, int width, Set
         state.SkipWithError(comparison.fault().c_str());
         return;
     }
-    for (auto _ : state) state.SetIterationTime(comparison.round());
+    while (state.KeepRunning()) state.SetIterationTime(comparison.round());
     for (const auto& [column, ratio] : comparison.ratios())
         if (column != bench::ours) state.counters[column] = ratio;
     std::string label;
@@ -94,6 +94,20 @@ const Column columns[] = {{"c", "C, scalar"},
                           {"sin", "sine alone"},
                           {"clean", "clean operands"}};
 
+const char* title_of(Set set) {
+    switch (set) {
+        case Set::in_range:
+            return "In range";
+        case Set::one_rare_in_64:
+            return "One rare lane in 64";
+        case Set::all_rare:
+            return "All lanes rare";
+        case Set::long_path:
+            return "Long path";
+    }
+    return "";
+}
+
 void print_table(Set set) {
     std::set<std::string> used;
     for (const Finding& finding : findings)
@@ -101,7 +115,7 @@ void print_table(Set set) {
             for (const auto& [column, ratio] : finding.ratios) used.insert(column);
     if (used.empty()) return;
 
-    std::printf("### %s\n\n| family | width |", bench::name_of(set));
+    std::printf("## %s\n\n| family | width |", title_of(set));
     for (const Column& column : columns)
         if (used.count(column.name)) std::printf(" %s |", column.title);
     std::printf("\n|---|--:|");
@@ -130,7 +144,8 @@ void print_table(Set set) {
 
 bool print_limits() {
     bool met = true;
-    std::printf("| family | width | operands | against | least ratio | measured | |\n|---|--:|---|---|--:|--:|---|\n");
+    std::printf("## Limits\n\n| family | width | operands | against | least ratio | measured | |\n");
+    std::printf("|---|--:|---|---|--:|--:|---|\n");
     for (const Limit& limit : limits())
         for (const Finding& finding : findings) {
             if (finding.family != limit.family || finding.width != limit.width || finding.set != limit.set) continue;
@@ -145,6 +160,7 @@ bool print_limits() {
             else
                 std::printf("%.2f | %s |\n", found->second, is_met ? "met" : "MISSED");
         }
+    std::printf("\n");
     return met;
 }
 
