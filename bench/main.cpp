@@ -6,6 +6,7 @@
 //   bench --table ...                                   the ratio tables of docs/performance.md
 //   bench --limits ...                                  the limits of bench/limits.def; fails where one is missed
 #include <benchmark/benchmark.h>
+#include <unistd.h>
 
 #include <cstdio>
 #include <cstdlib>
@@ -170,9 +171,19 @@ bool is_limited(const std::string& family, int width, Set set) {
     return false;
 }
 
+// The C library picks its functions by the processor at hand, and takes fused or wider instructions where it finds
+// them. The target has none, so it is asked, once and before it starts, to do without.
+void keep_to_target(char** argv) {
+    if (std::getenv("GLIBC_TUNABLES")) return;
+    setenv("GLIBC_TUNABLES", "glibc.cpu.hwcaps=-FMA,-FMA4,-AVX2,-AVX", 1);
+    execv("/proc/self/exe", argv);
+    std::fprintf(stderr, "The C library may use instructions beyond the target: it could not be started anew.\n");
+}
+
 }  // namespace
 
 int main(int argc, char** argv) {
+    keep_to_target(argv);
     bool table = false, only_limits = false;
     int rounds = 151;
     int kept = 1;
