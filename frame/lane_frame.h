@@ -282,9 +282,14 @@ struct alignas(64) StagingArea {
 
 // ---- Deliveries: what happens to the results once they are complete. ---------------------------------------
 
+// A delivery travels to the long path as its target: a pointer goes in a register, a structure around it would go on
+// the stack and keep the call from being a jump.
+struct NoTarget {};
+
 template <class Value>
 struct ByValue {
     using Type = Value;
+    [[no_unique_address]] NoTarget target;
     ALWAYS_INLINE Value operator()(Value first) const { return first; }
 };
 
@@ -304,6 +309,7 @@ struct ThroughPointer {
 template <class Value, class SecondValue, class Pair>
 struct AsPair {
     using Type = Pair;
+    [[no_unique_address]] NoTarget target;
     ALWAYS_INLINE Pair operator()(Value first, SecondValue second) const { return Pair{first, second}; }
 };
 
@@ -358,7 +364,7 @@ class Frame<Kernel, width, Returned (*)(Operands...)> {
     ALWAYS_INLINE static typename Delivery::Type run(Delivery deliver, AllSteps<Operands>... operands) {
         if constexpr (requires { typename Kernel::LongPath; }) {
             if (__builtin_expect(any_beyond(std::make_index_sequence<steps>(), operands...), 0))
-                return take_long_path(operands..., deliver);
+                return take_long_path<Delivery>(operands..., deliver.target);
         }
         Outcome outcome;
         compute(outcome, operands...);
@@ -476,8 +482,8 @@ class Frame<Kernel, width, Returned (*)(Operands...)> {
 
     template <class Delivery>
     [[gnu::noinline, gnu::regcall]] static typename Delivery::Type take_long_path(AllSteps<Operands>... operands,
-                                                                                  Delivery deliver) {
-        return Frame<typename Kernel::LongPath, width>::run(deliver, operands...);
+                                                                                  decltype(Delivery::target) target) {
+        return Frame<typename Kernel::LongPath, width>::run(Delivery{target}, operands...);
     }
 
     // ---- The rare lanes. ----
