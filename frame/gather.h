@@ -33,7 +33,7 @@ inline LaneOffsets2 offsets_of(L2 lanes) {
 }
 
 template <class Lane>
-inline Lane load_at(const Lane* column, uint32_t offset) {
+inline const Lane& load_at(const Lane* column, uint32_t offset) {
     return *reinterpret_cast<const Lane*>(reinterpret_cast<const char*>(column) + offset);
 }
 
@@ -60,6 +60,17 @@ template <class Lane>
 inline Vector<Lane, 2> gather_indexed(const Lane* table, LaneOffsets2 index) {
     static_assert(sizeof(Lane) == 8);
     return {table[index.lane[0]], table[index.lane[1]]};
+}
+
+// Rows of four floats, aligned to 16 bytes: one load for each lane, and the four columns by transposing.
+struct Columns {
+    F4 column[4];
+};
+inline Columns gather_rows(const float* table, LaneOffsets at) {
+    auto row = [&](int lane) { return _mm_load_ps(&load_at(table, at.lane[lane])); };
+    __m128 row0 = row(0), row1 = row(1), row2 = row(2), row3 = row(3);
+    _MM_TRANSPOSE4_PS(row0, row1, row2, row3);
+    return {{row0, row1, row2, row3}};
 }
 
 }  // namespace zorv

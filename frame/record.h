@@ -52,6 +52,7 @@ struct alignas(32) PackedSlot {
     // Arithmetic and compares find the conversion by themselves; the bitwise operators need to be told.
     friend Unit operator&(Unit x, const PackedSlot& constant) { return x & Unit(constant); }
     friend Unit operator|(Unit x, const PackedSlot& constant) { return x | Unit(constant); }
+    friend Unit operator^(Unit x, const PackedSlot& constant) { return x ^ Unit(constant); }
 };
 
 // One constant alone in its 64-byte line: 32 bytes of replicas, 32 bytes of zero.
