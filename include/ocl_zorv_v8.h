@@ -822,6 +822,121 @@ float4 __ocl_zorv_v8_log10f4_native(float4 x);
 float8 __ocl_zorv_v8_log10f8_native(float8 x);
 float16 __ocl_zorv_v8_log10f16_native(float16 x);
 
+/* sinf: The sine of x. Radians. x: float; result: float.
+ * +-0 gives +-0. Infinities and NaN give NaN.
+ * Error: 2.48 ulp at most.
+ * float: up to 10000, multiples of pi in four parts and an odd polynomial of degree 9. Once a lane of a call
+ * is beyond, all its lanes take the long path: the significand times the bits of 1/pi (Payne and Hanek's
+ * reduction), a table of 256 steps of the turn, head and tail arithmetic; its error is 0.51 ulp. So a
+ * neighbour beyond 10000 can change the last bits of a lane, by 2 units at most, and -0 to +0. */
+float __ocl_zorv_v8_sinf1(float x);
+float2 __ocl_zorv_v8_sinf2(float2 x);
+float4 __ocl_zorv_v8_sinf3(float4 x);
+float4 __ocl_zorv_v8_sinf4(float4 x);
+float8 __ocl_zorv_v8_sinf8(float8 x);
+float16 __ocl_zorv_v8_sinf16(float16 x);
+
+/* sinf_native: The sine of x. Radians. x: float; result: float.
+ * +-0 gives +-0. float: infinities give a finite number of no meaning, and so does a NaN beside a lane beyond
+ * 10000.
+ * Error: 2321 ulp at most.
+ * float: up to 10000, multiples of pi in three parts and an odd polynomial of degree 5; beyond, the accurate
+ * class's long path, for all lanes of a call once one needs it. So a neighbour beyond 10000 can change a lane
+ * by as much as this error, and -0 to +0. */
+float __ocl_zorv_v8_sinf1_native(float x);
+float2 __ocl_zorv_v8_sinf2_native(float2 x);
+float4 __ocl_zorv_v8_sinf3_native(float4 x);
+float4 __ocl_zorv_v8_sinf4_native(float4 x);
+float8 __ocl_zorv_v8_sinf8_native(float8 x);
+float16 __ocl_zorv_v8_sinf16_native(float16 x);
+
+/* cosf: The cosine of x. Radians. x: float; result: float.
+ * Infinities and NaN give NaN.
+ * Error: 2.39 ulp at most.
+ * float: up to 10000, multiples of pi in four parts and an odd polynomial of degree 9. Once a lane of a call
+ * is beyond, all its lanes take the long path: the significand times the bits of 1/pi (Payne and Hanek's
+ * reduction), a table of 256 steps of the turn, head and tail arithmetic; its error is 0.51 ulp. So a
+ * neighbour beyond 10000 can change the last bits of a lane, by 2 units at most. */
+float __ocl_zorv_v8_cosf1(float x);
+float2 __ocl_zorv_v8_cosf2(float2 x);
+float4 __ocl_zorv_v8_cosf3(float4 x);
+float4 __ocl_zorv_v8_cosf4(float4 x);
+float8 __ocl_zorv_v8_cosf8(float8 x);
+float16 __ocl_zorv_v8_cosf16(float16 x);
+
+/* cosf_native: The cosine of x. Radians. x: float; result: float.
+ * float: infinities give a finite number of no meaning, and so does a NaN beside a lane beyond 10000.
+ * Error: 2350 ulp at most.
+ * float: up to 10000, multiples of pi in three parts and an odd polynomial of degree 5; beyond, the accurate
+ * class's long path, for all lanes of a call once one needs it. So a neighbour beyond 10000 can change a lane
+ * by as much as this error. */
+float __ocl_zorv_v8_cosf1_native(float x);
+float2 __ocl_zorv_v8_cosf2_native(float2 x);
+float4 __ocl_zorv_v8_cosf3_native(float4 x);
+float4 __ocl_zorv_v8_cosf4_native(float4 x);
+float8 __ocl_zorv_v8_cosf8_native(float8 x);
+float16 __ocl_zorv_v8_cosf16_native(float16 x);
+
+/* sincosf: The sine of x; through the pointer its cosine. Radians. x: float; result: float; through the
+ * pointer: float.
+ * The sine of +-0 is +-0. Infinities and NaN give NaN twice.
+ * Error: 2.48 ulp at most.
+ * float: up to 10000, multiples of pi in four parts and an odd polynomial of degree 9. Once a lane of a call
+ * is beyond, all its lanes take the long path: the significand times the bits of 1/pi (Payne and Hanek's
+ * reduction), a table of 256 steps of the turn, head and tail arithmetic; its error is 0.51 ulp. So a
+ * neighbour beyond 10000 can change the last bits of a lane, by 2 units at most. */
+float __ocl_zorv_v8_sincosf1(float x, float *second);
+float2 __ocl_zorv_v8_sincosf2(float2 x, float2 *second);
+float4 __ocl_zorv_v8_sincosf3(float4 x, float4 *second);
+float4 __ocl_zorv_v8_sincosf4(float4 x, float4 *second);
+float8 __ocl_zorv_v8_sincosf8(float8 x, float8 *second);
+float16 __ocl_zorv_v8_sincosf16(float16 x, float16 *second);
+
+/* sincosf_native: The sine of x; through the pointer its cosine. Radians. x: float; result: float; through
+ * the pointer: float.
+ * The sine of +-0 is +-0. float: infinities give a finite number of no meaning, and so does a NaN beside a
+ * lane beyond 10000.
+ * Error: 2321 ulp at most.
+ * float: up to 10000, multiples of pi in three parts and an odd polynomial of degree 5; beyond, the accurate
+ * class's long path, for all lanes of a call once one needs it. So a neighbour beyond 10000 can change a lane
+ * by as much as this error. */
+float __ocl_zorv_v8_sincosf1_native(float x, float *second);
+float2 __ocl_zorv_v8_sincosf2_native(float2 x, float2 *second);
+float4 __ocl_zorv_v8_sincosf3_native(float4 x, float4 *second);
+float4 __ocl_zorv_v8_sincosf4_native(float4 x, float4 *second);
+float8 __ocl_zorv_v8_sincosf8_native(float8 x, float8 *second);
+float16 __ocl_zorv_v8_sincosf16_native(float16 x, float16 *second);
+
+/* sincosregf: The sine and the cosine of x. Radians. x: float; result: float, first the sine, then the
+ * cosine.
+ * The sine of +-0 is +-0. Infinities and NaN give NaN twice.
+ * Error: 2.48 ulp at most.
+ * float: up to 10000, multiples of pi in four parts and an odd polynomial of degree 9. Once a lane of a call
+ * is beyond, all its lanes take the long path: the significand times the bits of 1/pi (Payne and Hanek's
+ * reduction), a table of 256 steps of the turn, head and tail arithmetic; its error is 0.51 ulp. So a
+ * neighbour beyond 10000 can change the last bits of a lane, by 2 units at most. */
+float2 __ocl_zorv_v8_sincosregf1(float x);
+float2_pair __ocl_zorv_v8_sincosregf2(float2 x);
+float3_pair __ocl_zorv_v8_sincosregf3(float4 x);
+float4_pair __ocl_zorv_v8_sincosregf4(float4 x);
+float8_pair __ocl_zorv_v8_sincosregf8(float8 x);
+float16_pair __ocl_zorv_v8_sincosregf16(float16 x);
+
+/* sincosregf_native: The sine and the cosine of x. Radians. x: float; result: float, first the sine, then the
+ * cosine.
+ * The sine of +-0 is +-0. float: infinities give a finite number of no meaning, and so does a NaN beside a
+ * lane beyond 10000.
+ * Error: 2321 ulp at most.
+ * float: up to 10000, multiples of pi in three parts and an odd polynomial of degree 5; beyond, the accurate
+ * class's long path, for all lanes of a call once one needs it. So a neighbour beyond 10000 can change a lane
+ * by as much as this error. */
+float2 __ocl_zorv_v8_sincosregf1_native(float x);
+float2_pair __ocl_zorv_v8_sincosregf2_native(float2 x);
+float3_pair __ocl_zorv_v8_sincosregf3_native(float4 x);
+float4_pair __ocl_zorv_v8_sincosregf4_native(float4 x);
+float8_pair __ocl_zorv_v8_sincosregf8_native(float8 x);
+float16_pair __ocl_zorv_v8_sincosregf16_native(float16 x);
+
 #ifdef __cplusplus
 #pragma clang diagnostic pop
 }

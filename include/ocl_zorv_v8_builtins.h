@@ -882,6 +882,258 @@ OVERLOAD float4 native_log10(float4 x) { return __ocl_zorv_v8_log10f4_native(x);
 OVERLOAD float8 native_log10(float8 x) { return __ocl_zorv_v8_log10f8_native(x); }
 OVERLOAD float16 native_log10(float16 x) { return __ocl_zorv_v8_log10f16_native(x); }
 
+/* sinf */
+OVERLOAD float sin(float x) { return __ocl_zorv_v8_sinf1(x); }
+OVERLOAD float2 sin(float2 x) { return __ocl_zorv_v8_sinf2(x); }
+OVERLOAD float3 sin(float3 x) { return (__ocl_zorv_v8_sinf3(x.xyzz)).xyz; }
+OVERLOAD float4 sin(float4 x) { return __ocl_zorv_v8_sinf4(x); }
+OVERLOAD float8 sin(float8 x) { return __ocl_zorv_v8_sinf8(x); }
+OVERLOAD float16 sin(float16 x) { return __ocl_zorv_v8_sinf16(x); }
+
+/* sinf_native */
+OVERLOAD float native_sin(float x) { return __ocl_zorv_v8_sinf1_native(x); }
+OVERLOAD float2 native_sin(float2 x) { return __ocl_zorv_v8_sinf2_native(x); }
+OVERLOAD float3 native_sin(float3 x) { return (__ocl_zorv_v8_sinf3_native(x.xyzz)).xyz; }
+OVERLOAD float4 native_sin(float4 x) { return __ocl_zorv_v8_sinf4_native(x); }
+OVERLOAD float8 native_sin(float8 x) { return __ocl_zorv_v8_sinf8_native(x); }
+OVERLOAD float16 native_sin(float16 x) { return __ocl_zorv_v8_sinf16_native(x); }
+
+/* cosf */
+OVERLOAD float cos(float x) { return __ocl_zorv_v8_cosf1(x); }
+OVERLOAD float2 cos(float2 x) { return __ocl_zorv_v8_cosf2(x); }
+OVERLOAD float3 cos(float3 x) { return (__ocl_zorv_v8_cosf3(x.xyzz)).xyz; }
+OVERLOAD float4 cos(float4 x) { return __ocl_zorv_v8_cosf4(x); }
+OVERLOAD float8 cos(float8 x) { return __ocl_zorv_v8_cosf8(x); }
+OVERLOAD float16 cos(float16 x) { return __ocl_zorv_v8_cosf16(x); }
+
+/* cosf_native */
+OVERLOAD float native_cos(float x) { return __ocl_zorv_v8_cosf1_native(x); }
+OVERLOAD float2 native_cos(float2 x) { return __ocl_zorv_v8_cosf2_native(x); }
+OVERLOAD float3 native_cos(float3 x) { return (__ocl_zorv_v8_cosf3_native(x.xyzz)).xyz; }
+OVERLOAD float4 native_cos(float4 x) { return __ocl_zorv_v8_cosf4_native(x); }
+OVERLOAD float8 native_cos(float8 x) { return __ocl_zorv_v8_cosf8_native(x); }
+OVERLOAD float16 native_cos(float16 x) { return __ocl_zorv_v8_cosf16_native(x); }
+
+/* sincosf */
+OVERLOAD float sincos(float x, private float *pointer) {
+    float second;
+    float first = __ocl_zorv_v8_sincosf1(x, &second);
+    *pointer = second;
+    return first;
+}
+OVERLOAD float sincos(float x, local float *pointer) {
+    float second;
+    float first = __ocl_zorv_v8_sincosf1(x, &second);
+    *pointer = second;
+    return first;
+}
+OVERLOAD float sincos(float x, global float *pointer) {
+    float second;
+    float first = __ocl_zorv_v8_sincosf1(x, &second);
+    *pointer = second;
+    return first;
+}
+OVERLOAD float2 sincos(float2 x, private float2 *pointer) {
+    float2 second;
+    float2 first = __ocl_zorv_v8_sincosf2(x, &second);
+    *pointer = second;
+    return first;
+}
+OVERLOAD float2 sincos(float2 x, local float2 *pointer) {
+    float2 second;
+    float2 first = __ocl_zorv_v8_sincosf2(x, &second);
+    *pointer = second;
+    return first;
+}
+OVERLOAD float2 sincos(float2 x, global float2 *pointer) {
+    float2 second;
+    float2 first = __ocl_zorv_v8_sincosf2(x, &second);
+    *pointer = second;
+    return first;
+}
+OVERLOAD float3 sincos(float3 x, private float3 *pointer) {
+    float4 second;
+    float3 first = (__ocl_zorv_v8_sincosf3(x.xyzz, &second)).xyz;
+    *pointer = second.xyz;
+    return first;
+}
+OVERLOAD float3 sincos(float3 x, local float3 *pointer) {
+    float4 second;
+    float3 first = (__ocl_zorv_v8_sincosf3(x.xyzz, &second)).xyz;
+    *pointer = second.xyz;
+    return first;
+}
+OVERLOAD float3 sincos(float3 x, global float3 *pointer) {
+    float4 second;
+    float3 first = (__ocl_zorv_v8_sincosf3(x.xyzz, &second)).xyz;
+    *pointer = second.xyz;
+    return first;
+}
+OVERLOAD float4 sincos(float4 x, private float4 *pointer) {
+    float4 second;
+    float4 first = __ocl_zorv_v8_sincosf4(x, &second);
+    *pointer = second;
+    return first;
+}
+OVERLOAD float4 sincos(float4 x, local float4 *pointer) {
+    float4 second;
+    float4 first = __ocl_zorv_v8_sincosf4(x, &second);
+    *pointer = second;
+    return first;
+}
+OVERLOAD float4 sincos(float4 x, global float4 *pointer) {
+    float4 second;
+    float4 first = __ocl_zorv_v8_sincosf4(x, &second);
+    *pointer = second;
+    return first;
+}
+OVERLOAD float8 sincos(float8 x, private float8 *pointer) {
+    float8 second;
+    float8 first = __ocl_zorv_v8_sincosf8(x, &second);
+    *pointer = second;
+    return first;
+}
+OVERLOAD float8 sincos(float8 x, local float8 *pointer) {
+    float8 second;
+    float8 first = __ocl_zorv_v8_sincosf8(x, &second);
+    *pointer = second;
+    return first;
+}
+OVERLOAD float8 sincos(float8 x, global float8 *pointer) {
+    float8 second;
+    float8 first = __ocl_zorv_v8_sincosf8(x, &second);
+    *pointer = second;
+    return first;
+}
+OVERLOAD float16 sincos(float16 x, private float16 *pointer) {
+    float16 second;
+    float16 first = __ocl_zorv_v8_sincosf16(x, &second);
+    *pointer = second;
+    return first;
+}
+OVERLOAD float16 sincos(float16 x, local float16 *pointer) {
+    float16 second;
+    float16 first = __ocl_zorv_v8_sincosf16(x, &second);
+    *pointer = second;
+    return first;
+}
+OVERLOAD float16 sincos(float16 x, global float16 *pointer) {
+    float16 second;
+    float16 first = __ocl_zorv_v8_sincosf16(x, &second);
+    *pointer = second;
+    return first;
+}
+
+/* sincosf_native */
+OVERLOAD float native_sincos(float x, private float *pointer) {
+    float second;
+    float first = __ocl_zorv_v8_sincosf1_native(x, &second);
+    *pointer = second;
+    return first;
+}
+OVERLOAD float native_sincos(float x, local float *pointer) {
+    float second;
+    float first = __ocl_zorv_v8_sincosf1_native(x, &second);
+    *pointer = second;
+    return first;
+}
+OVERLOAD float native_sincos(float x, global float *pointer) {
+    float second;
+    float first = __ocl_zorv_v8_sincosf1_native(x, &second);
+    *pointer = second;
+    return first;
+}
+OVERLOAD float2 native_sincos(float2 x, private float2 *pointer) {
+    float2 second;
+    float2 first = __ocl_zorv_v8_sincosf2_native(x, &second);
+    *pointer = second;
+    return first;
+}
+OVERLOAD float2 native_sincos(float2 x, local float2 *pointer) {
+    float2 second;
+    float2 first = __ocl_zorv_v8_sincosf2_native(x, &second);
+    *pointer = second;
+    return first;
+}
+OVERLOAD float2 native_sincos(float2 x, global float2 *pointer) {
+    float2 second;
+    float2 first = __ocl_zorv_v8_sincosf2_native(x, &second);
+    *pointer = second;
+    return first;
+}
+OVERLOAD float3 native_sincos(float3 x, private float3 *pointer) {
+    float4 second;
+    float3 first = (__ocl_zorv_v8_sincosf3_native(x.xyzz, &second)).xyz;
+    *pointer = second.xyz;
+    return first;
+}
+OVERLOAD float3 native_sincos(float3 x, local float3 *pointer) {
+    float4 second;
+    float3 first = (__ocl_zorv_v8_sincosf3_native(x.xyzz, &second)).xyz;
+    *pointer = second.xyz;
+    return first;
+}
+OVERLOAD float3 native_sincos(float3 x, global float3 *pointer) {
+    float4 second;
+    float3 first = (__ocl_zorv_v8_sincosf3_native(x.xyzz, &second)).xyz;
+    *pointer = second.xyz;
+    return first;
+}
+OVERLOAD float4 native_sincos(float4 x, private float4 *pointer) {
+    float4 second;
+    float4 first = __ocl_zorv_v8_sincosf4_native(x, &second);
+    *pointer = second;
+    return first;
+}
+OVERLOAD float4 native_sincos(float4 x, local float4 *pointer) {
+    float4 second;
+    float4 first = __ocl_zorv_v8_sincosf4_native(x, &second);
+    *pointer = second;
+    return first;
+}
+OVERLOAD float4 native_sincos(float4 x, global float4 *pointer) {
+    float4 second;
+    float4 first = __ocl_zorv_v8_sincosf4_native(x, &second);
+    *pointer = second;
+    return first;
+}
+OVERLOAD float8 native_sincos(float8 x, private float8 *pointer) {
+    float8 second;
+    float8 first = __ocl_zorv_v8_sincosf8_native(x, &second);
+    *pointer = second;
+    return first;
+}
+OVERLOAD float8 native_sincos(float8 x, local float8 *pointer) {
+    float8 second;
+    float8 first = __ocl_zorv_v8_sincosf8_native(x, &second);
+    *pointer = second;
+    return first;
+}
+OVERLOAD float8 native_sincos(float8 x, global float8 *pointer) {
+    float8 second;
+    float8 first = __ocl_zorv_v8_sincosf8_native(x, &second);
+    *pointer = second;
+    return first;
+}
+OVERLOAD float16 native_sincos(float16 x, private float16 *pointer) {
+    float16 second;
+    float16 first = __ocl_zorv_v8_sincosf16_native(x, &second);
+    *pointer = second;
+    return first;
+}
+OVERLOAD float16 native_sincos(float16 x, local float16 *pointer) {
+    float16 second;
+    float16 first = __ocl_zorv_v8_sincosf16_native(x, &second);
+    *pointer = second;
+    return first;
+}
+OVERLOAD float16 native_sincos(float16 x, global float16 *pointer) {
+    float16 second;
+    float16 first = __ocl_zorv_v8_sincosf16_native(x, &second);
+    *pointer = second;
+    return first;
+}
+
 #undef OVERLOAD
 
 #endif
