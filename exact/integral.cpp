@@ -50,7 +50,7 @@ struct Round {
     static Unit main(Unit x) {
         const auto& data = in_memory(record);
         Unit a = clear_bits(x, data.sign);
-        Unit t = where_fraction_fits(shift_out_fraction(a, data), a, a, data);
+        Unit t = shift_out_fraction(a, data);
         Unit e = and_bits(Unit(data.one), a - t == Unit(data.half));
         return or_bits(t + e, bits(x) & data.sign);
     }

@@ -16,23 +16,18 @@
 
 namespace zorv {
 
-// The magnitude a with its fraction rounded away.
+// The magnitude a with its fraction rounded away. Where it has none, what is added and taken off again is zero: one
+// operation, where a choice between two values takes three.
 template <class Unit, class Data>
 inline Unit shift_out_fraction(Unit a, const Data& data) {
-    return (a + Unit(data.shifter)) - Unit(data.shifter);
-}
-
-// The rounded lanes; x itself where its magnitude a has no fraction bits. A NaN is not above the shifter.
-template <class Unit, class Data>
-inline Unit where_fraction_fits(Unit rounded, Unit a, Unit x, const Data& data) {
-    return select(Unit(data.shifter) < a, x, rounded);
+    Unit shifter = clear_bits(data.shifter, Unit(data.shifter) < a);
+    return (a + shifter) - shifter;
 }
 
 template <class Unit, class Data>
 inline Unit to_nearest(Unit x, const Data& data) {
     Unit a = clear_bits(x, data.sign);
-    Unit r = or_bits(shift_out_fraction(a, data), bits(x) & data.sign);
-    return where_fraction_fits(r, a, x, data);
+    return or_bits(shift_out_fraction(a, data), bits(x) & data.sign);
 }
 
 // The sign is back before the step: what steps from 1 to 0 is +0.
@@ -40,8 +35,7 @@ template <class Unit, class Data>
 inline Unit down(Unit x, const Data& data) {
     Unit a = clear_bits(x, data.sign);
     Unit r = or_bits(shift_out_fraction(a, data), bits(x) & data.sign);
-    r = r - and_bits(Unit(data.step), x < r);
-    return where_fraction_fits(r, a, x, data);
+    return r - and_bits(Unit(data.step), x < r);
 }
 
 // Likewise: (-1, -0.5) steps from -1 to +0, while [-0.5, 0) needs no step and gives -0.
@@ -49,8 +43,7 @@ template <class Unit, class Data>
 inline Unit up(Unit x, const Data& data) {
     Unit a = clear_bits(x, data.sign);
     Unit r = or_bits(shift_out_fraction(a, data), bits(x) & data.sign);
-    r = r - and_bits(Unit(data.step), r < x);
-    return where_fraction_fits(r, a, x, data);
+    return r - and_bits(Unit(data.step), r < x);
 }
 
 // The step is taken on the magnitude, the sign put back last: (-1, 0) gives -0.
@@ -59,7 +52,7 @@ inline Unit toward_zero(Unit x, const Data& data) {
     Unit a = clear_bits(x, data.sign);
     Unit r = shift_out_fraction(a, data);
     r = r - and_bits(Unit(data.step), a < r);
-    return where_fraction_fits(or_bits(r, bits(x) & data.sign), a, x, data);
+    return or_bits(r, bits(x) & data.sign);
 }
 
 }  // namespace zorv
