@@ -937,6 +937,1062 @@ float4_pair __ocl_zorv_v8_sincosregf4_native(float4 x);
 float8_pair __ocl_zorv_v8_sincosregf8_native(float8 x);
 float16_pair __ocl_zorv_v8_sincosregf16_native(float16 x);
 
+/* cvtfptoi32rtnsatf: x as int, rounded to nearest, ties to even. x: float; result: int.
+ * Clamped to the integer's range; NaN gives 0.
+ * Error: none, the value rounded as told.
+ * Rounded by a shifter, then converted exactly. */
+int __ocl_zorv_v8_cvtfptoi32rtnsatf1(float x);
+int2 __ocl_zorv_v8_cvtfptoi32rtnsatf2(float2 x);
+int4 __ocl_zorv_v8_cvtfptoi32rtnsatf3(float4 x);
+int4 __ocl_zorv_v8_cvtfptoi32rtnsatf4(float4 x);
+int8 __ocl_zorv_v8_cvtfptoi32rtnsatf8(float8 x);
+int16 __ocl_zorv_v8_cvtfptoi32rtnsatf16(float16 x);
+
+/* cvtfptoi32rtnsat: x as int, rounded to nearest, ties to even. x: double; result: int.
+ * Clamped to the integer's range; NaN gives 0.
+ * Error: none, the value rounded as told.
+ * Rounded by a shifter, then converted exactly. */
+int __ocl_zorv_v8_cvtfptoi32rtnsat1(double x);
+int2 __ocl_zorv_v8_cvtfptoi32rtnsat2(double2 x);
+int4 __ocl_zorv_v8_cvtfptoi32rtnsat3(double4 x);
+int4 __ocl_zorv_v8_cvtfptoi32rtnsat4(double4 x);
+int8 __ocl_zorv_v8_cvtfptoi32rtnsat8(double8 x);
+int16 __ocl_zorv_v8_cvtfptoi32rtnsat16(double16 x);
+
+/* cvtfptoi32rtnnosatf: x as int, rounded to nearest, ties to even. x: float; result: int.
+ * Out of range and NaN give the lowest signed integer's pattern.
+ * Error: none, the value rounded as told.
+ * Rounded by a shifter, then converted exactly. */
+int __ocl_zorv_v8_cvtfptoi32rtnnosatf1(float x);
+int2 __ocl_zorv_v8_cvtfptoi32rtnnosatf2(float2 x);
+int4 __ocl_zorv_v8_cvtfptoi32rtnnosatf3(float4 x);
+int4 __ocl_zorv_v8_cvtfptoi32rtnnosatf4(float4 x);
+int8 __ocl_zorv_v8_cvtfptoi32rtnnosatf8(float8 x);
+int16 __ocl_zorv_v8_cvtfptoi32rtnnosatf16(float16 x);
+
+/* cvtfptoi32rtnnosat: x as int, rounded to nearest, ties to even. x: double; result: int.
+ * Out of range and NaN give the lowest signed integer's pattern.
+ * Error: none, the value rounded as told.
+ * Rounded by a shifter, then converted exactly. */
+int __ocl_zorv_v8_cvtfptoi32rtnnosat1(double x);
+int2 __ocl_zorv_v8_cvtfptoi32rtnnosat2(double2 x);
+int4 __ocl_zorv_v8_cvtfptoi32rtnnosat3(double4 x);
+int4 __ocl_zorv_v8_cvtfptoi32rtnnosat4(double4 x);
+int8 __ocl_zorv_v8_cvtfptoi32rtnnosat8(double8 x);
+int16 __ocl_zorv_v8_cvtfptoi32rtnnosat16(double16 x);
+
+/* cvti32tofprtnf: x, of int lanes, as floating, rounded to nearest, ties to even. x: int; result: float.
+ * Every integer has a result; 0 gives +0.
+ * Error: none, the value rounded as told.
+ * Exact pieces, one rounded sum, a step on its bits where the rounding asks for one. */
+float __ocl_zorv_v8_cvti32tofprtnf1(int x);
+float2 __ocl_zorv_v8_cvti32tofprtnf2(int2 x);
+float4 __ocl_zorv_v8_cvti32tofprtnf3(int4 x);
+float4 __ocl_zorv_v8_cvti32tofprtnf4(int4 x);
+float8 __ocl_zorv_v8_cvti32tofprtnf8(int8 x);
+float16 __ocl_zorv_v8_cvti32tofprtnf16(int16 x);
+
+/* cvti32tofprtn: x, of int lanes, as floating, rounded to nearest, ties to even. x: int; result: double.
+ * Every integer has a result; 0 gives +0.
+ * Error: none, the value rounded as told.
+ * Exact pieces, one rounded sum, a step on its bits where the rounding asks for one. */
+double __ocl_zorv_v8_cvti32tofprtn1(int x);
+double2 __ocl_zorv_v8_cvti32tofprtn2(int2 x);
+double4 __ocl_zorv_v8_cvti32tofprtn3(int4 x);
+double4 __ocl_zorv_v8_cvti32tofprtn4(int4 x);
+double8 __ocl_zorv_v8_cvti32tofprtn8(int8 x);
+double16 __ocl_zorv_v8_cvti32tofprtn16(int16 x);
+
+/* cvtfptoi32rtzsatf: x as int, rounded toward zero. x: float; result: int.
+ * Clamped to the integer's range; NaN gives 0.
+ * Error: none, the value rounded as told.
+ * Rounded by a shifter, then converted exactly. */
+int __ocl_zorv_v8_cvtfptoi32rtzsatf1(float x);
+int2 __ocl_zorv_v8_cvtfptoi32rtzsatf2(float2 x);
+int4 __ocl_zorv_v8_cvtfptoi32rtzsatf3(float4 x);
+int4 __ocl_zorv_v8_cvtfptoi32rtzsatf4(float4 x);
+int8 __ocl_zorv_v8_cvtfptoi32rtzsatf8(float8 x);
+int16 __ocl_zorv_v8_cvtfptoi32rtzsatf16(float16 x);
+
+/* cvtfptoi32rtzsat: x as int, rounded toward zero. x: double; result: int.
+ * Clamped to the integer's range; NaN gives 0.
+ * Error: none, the value rounded as told.
+ * Rounded by a shifter, then converted exactly. */
+int __ocl_zorv_v8_cvtfptoi32rtzsat1(double x);
+int2 __ocl_zorv_v8_cvtfptoi32rtzsat2(double2 x);
+int4 __ocl_zorv_v8_cvtfptoi32rtzsat3(double4 x);
+int4 __ocl_zorv_v8_cvtfptoi32rtzsat4(double4 x);
+int8 __ocl_zorv_v8_cvtfptoi32rtzsat8(double8 x);
+int16 __ocl_zorv_v8_cvtfptoi32rtzsat16(double16 x);
+
+/* cvtfptoi32rtznosatf: x as int, rounded toward zero. x: float; result: int.
+ * Out of range and NaN give the lowest signed integer's pattern.
+ * Error: none, the value rounded as told.
+ * Rounded by a shifter, then converted exactly. */
+int __ocl_zorv_v8_cvtfptoi32rtznosatf1(float x);
+int2 __ocl_zorv_v8_cvtfptoi32rtznosatf2(float2 x);
+int4 __ocl_zorv_v8_cvtfptoi32rtznosatf3(float4 x);
+int4 __ocl_zorv_v8_cvtfptoi32rtznosatf4(float4 x);
+int8 __ocl_zorv_v8_cvtfptoi32rtznosatf8(float8 x);
+int16 __ocl_zorv_v8_cvtfptoi32rtznosatf16(float16 x);
+
+/* cvtfptoi32rtznosat: x as int, rounded toward zero. x: double; result: int.
+ * Out of range and NaN give the lowest signed integer's pattern.
+ * Error: none, the value rounded as told.
+ * Rounded by a shifter, then converted exactly. */
+int __ocl_zorv_v8_cvtfptoi32rtznosat1(double x);
+int2 __ocl_zorv_v8_cvtfptoi32rtznosat2(double2 x);
+int4 __ocl_zorv_v8_cvtfptoi32rtznosat3(double4 x);
+int4 __ocl_zorv_v8_cvtfptoi32rtznosat4(double4 x);
+int8 __ocl_zorv_v8_cvtfptoi32rtznosat8(double8 x);
+int16 __ocl_zorv_v8_cvtfptoi32rtznosat16(double16 x);
+
+/* cvti32tofprtzf: x, of int lanes, as floating, rounded toward zero. x: int; result: float.
+ * Every integer has a result; 0 gives +0.
+ * Error: none, the value rounded as told.
+ * Exact pieces, one rounded sum, a step on its bits where the rounding asks for one. */
+float __ocl_zorv_v8_cvti32tofprtzf1(int x);
+float2 __ocl_zorv_v8_cvti32tofprtzf2(int2 x);
+float4 __ocl_zorv_v8_cvti32tofprtzf3(int4 x);
+float4 __ocl_zorv_v8_cvti32tofprtzf4(int4 x);
+float8 __ocl_zorv_v8_cvti32tofprtzf8(int8 x);
+float16 __ocl_zorv_v8_cvti32tofprtzf16(int16 x);
+
+/* cvti32tofprtz: x, of int lanes, as floating, rounded toward zero. x: int; result: double.
+ * Every integer has a result; 0 gives +0.
+ * Error: none, the value rounded as told.
+ * Exact pieces, one rounded sum, a step on its bits where the rounding asks for one. */
+double __ocl_zorv_v8_cvti32tofprtz1(int x);
+double2 __ocl_zorv_v8_cvti32tofprtz2(int2 x);
+double4 __ocl_zorv_v8_cvti32tofprtz3(int4 x);
+double4 __ocl_zorv_v8_cvti32tofprtz4(int4 x);
+double8 __ocl_zorv_v8_cvti32tofprtz8(int8 x);
+double16 __ocl_zorv_v8_cvti32tofprtz16(int16 x);
+
+/* cvtfptoi32upsatf: x as int, rounded toward positive infinity. x: float; result: int.
+ * Clamped to the integer's range; NaN gives 0.
+ * Error: none, the value rounded as told.
+ * Rounded by a shifter, then converted exactly. */
+int __ocl_zorv_v8_cvtfptoi32upsatf1(float x);
+int2 __ocl_zorv_v8_cvtfptoi32upsatf2(float2 x);
+int4 __ocl_zorv_v8_cvtfptoi32upsatf3(float4 x);
+int4 __ocl_zorv_v8_cvtfptoi32upsatf4(float4 x);
+int8 __ocl_zorv_v8_cvtfptoi32upsatf8(float8 x);
+int16 __ocl_zorv_v8_cvtfptoi32upsatf16(float16 x);
+
+/* cvtfptoi32upsat: x as int, rounded toward positive infinity. x: double; result: int.
+ * Clamped to the integer's range; NaN gives 0.
+ * Error: none, the value rounded as told.
+ * Rounded by a shifter, then converted exactly. */
+int __ocl_zorv_v8_cvtfptoi32upsat1(double x);
+int2 __ocl_zorv_v8_cvtfptoi32upsat2(double2 x);
+int4 __ocl_zorv_v8_cvtfptoi32upsat3(double4 x);
+int4 __ocl_zorv_v8_cvtfptoi32upsat4(double4 x);
+int8 __ocl_zorv_v8_cvtfptoi32upsat8(double8 x);
+int16 __ocl_zorv_v8_cvtfptoi32upsat16(double16 x);
+
+/* cvtfptoi32upnosatf: x as int, rounded toward positive infinity. x: float; result: int.
+ * Out of range and NaN give the lowest signed integer's pattern.
+ * Error: none, the value rounded as told.
+ * Rounded by a shifter, then converted exactly. */
+int __ocl_zorv_v8_cvtfptoi32upnosatf1(float x);
+int2 __ocl_zorv_v8_cvtfptoi32upnosatf2(float2 x);
+int4 __ocl_zorv_v8_cvtfptoi32upnosatf3(float4 x);
+int4 __ocl_zorv_v8_cvtfptoi32upnosatf4(float4 x);
+int8 __ocl_zorv_v8_cvtfptoi32upnosatf8(float8 x);
+int16 __ocl_zorv_v8_cvtfptoi32upnosatf16(float16 x);
+
+/* cvtfptoi32upnosat: x as int, rounded toward positive infinity. x: double; result: int.
+ * Out of range and NaN give the lowest signed integer's pattern.
+ * Error: none, the value rounded as told.
+ * Rounded by a shifter, then converted exactly. */
+int __ocl_zorv_v8_cvtfptoi32upnosat1(double x);
+int2 __ocl_zorv_v8_cvtfptoi32upnosat2(double2 x);
+int4 __ocl_zorv_v8_cvtfptoi32upnosat3(double4 x);
+int4 __ocl_zorv_v8_cvtfptoi32upnosat4(double4 x);
+int8 __ocl_zorv_v8_cvtfptoi32upnosat8(double8 x);
+int16 __ocl_zorv_v8_cvtfptoi32upnosat16(double16 x);
+
+/* cvti32tofpupf: x, of int lanes, as floating, rounded toward positive infinity. x: int; result: float.
+ * Every integer has a result; 0 gives +0.
+ * Error: none, the value rounded as told.
+ * Exact pieces, one rounded sum, a step on its bits where the rounding asks for one. */
+float __ocl_zorv_v8_cvti32tofpupf1(int x);
+float2 __ocl_zorv_v8_cvti32tofpupf2(int2 x);
+float4 __ocl_zorv_v8_cvti32tofpupf3(int4 x);
+float4 __ocl_zorv_v8_cvti32tofpupf4(int4 x);
+float8 __ocl_zorv_v8_cvti32tofpupf8(int8 x);
+float16 __ocl_zorv_v8_cvti32tofpupf16(int16 x);
+
+/* cvti32tofpup: x, of int lanes, as floating, rounded toward positive infinity. x: int; result: double.
+ * Every integer has a result; 0 gives +0.
+ * Error: none, the value rounded as told.
+ * Exact pieces, one rounded sum, a step on its bits where the rounding asks for one. */
+double __ocl_zorv_v8_cvti32tofpup1(int x);
+double2 __ocl_zorv_v8_cvti32tofpup2(int2 x);
+double4 __ocl_zorv_v8_cvti32tofpup3(int4 x);
+double4 __ocl_zorv_v8_cvti32tofpup4(int4 x);
+double8 __ocl_zorv_v8_cvti32tofpup8(int8 x);
+double16 __ocl_zorv_v8_cvti32tofpup16(int16 x);
+
+/* cvtfptoi32downsatf: x as int, rounded toward negative infinity. x: float; result: int.
+ * Clamped to the integer's range; NaN gives 0.
+ * Error: none, the value rounded as told.
+ * Rounded by a shifter, then converted exactly. */
+int __ocl_zorv_v8_cvtfptoi32downsatf1(float x);
+int2 __ocl_zorv_v8_cvtfptoi32downsatf2(float2 x);
+int4 __ocl_zorv_v8_cvtfptoi32downsatf3(float4 x);
+int4 __ocl_zorv_v8_cvtfptoi32downsatf4(float4 x);
+int8 __ocl_zorv_v8_cvtfptoi32downsatf8(float8 x);
+int16 __ocl_zorv_v8_cvtfptoi32downsatf16(float16 x);
+
+/* cvtfptoi32downsat: x as int, rounded toward negative infinity. x: double; result: int.
+ * Clamped to the integer's range; NaN gives 0.
+ * Error: none, the value rounded as told.
+ * Rounded by a shifter, then converted exactly. */
+int __ocl_zorv_v8_cvtfptoi32downsat1(double x);
+int2 __ocl_zorv_v8_cvtfptoi32downsat2(double2 x);
+int4 __ocl_zorv_v8_cvtfptoi32downsat3(double4 x);
+int4 __ocl_zorv_v8_cvtfptoi32downsat4(double4 x);
+int8 __ocl_zorv_v8_cvtfptoi32downsat8(double8 x);
+int16 __ocl_zorv_v8_cvtfptoi32downsat16(double16 x);
+
+/* cvtfptoi32downnosatf: x as int, rounded toward negative infinity. x: float; result: int.
+ * Out of range and NaN give the lowest signed integer's pattern.
+ * Error: none, the value rounded as told.
+ * Rounded by a shifter, then converted exactly. */
+int __ocl_zorv_v8_cvtfptoi32downnosatf1(float x);
+int2 __ocl_zorv_v8_cvtfptoi32downnosatf2(float2 x);
+int4 __ocl_zorv_v8_cvtfptoi32downnosatf3(float4 x);
+int4 __ocl_zorv_v8_cvtfptoi32downnosatf4(float4 x);
+int8 __ocl_zorv_v8_cvtfptoi32downnosatf8(float8 x);
+int16 __ocl_zorv_v8_cvtfptoi32downnosatf16(float16 x);
+
+/* cvtfptoi32downnosat: x as int, rounded toward negative infinity. x: double; result: int.
+ * Out of range and NaN give the lowest signed integer's pattern.
+ * Error: none, the value rounded as told.
+ * Rounded by a shifter, then converted exactly. */
+int __ocl_zorv_v8_cvtfptoi32downnosat1(double x);
+int2 __ocl_zorv_v8_cvtfptoi32downnosat2(double2 x);
+int4 __ocl_zorv_v8_cvtfptoi32downnosat3(double4 x);
+int4 __ocl_zorv_v8_cvtfptoi32downnosat4(double4 x);
+int8 __ocl_zorv_v8_cvtfptoi32downnosat8(double8 x);
+int16 __ocl_zorv_v8_cvtfptoi32downnosat16(double16 x);
+
+/* cvti32tofpdownf: x, of int lanes, as floating, rounded toward negative infinity. x: int; result: float.
+ * Every integer has a result; 0 gives +0.
+ * Error: none, the value rounded as told.
+ * Exact pieces, one rounded sum, a step on its bits where the rounding asks for one. */
+float __ocl_zorv_v8_cvti32tofpdownf1(int x);
+float2 __ocl_zorv_v8_cvti32tofpdownf2(int2 x);
+float4 __ocl_zorv_v8_cvti32tofpdownf3(int4 x);
+float4 __ocl_zorv_v8_cvti32tofpdownf4(int4 x);
+float8 __ocl_zorv_v8_cvti32tofpdownf8(int8 x);
+float16 __ocl_zorv_v8_cvti32tofpdownf16(int16 x);
+
+/* cvti32tofpdown: x, of int lanes, as floating, rounded toward negative infinity. x: int; result: double.
+ * Every integer has a result; 0 gives +0.
+ * Error: none, the value rounded as told.
+ * Exact pieces, one rounded sum, a step on its bits where the rounding asks for one. */
+double __ocl_zorv_v8_cvti32tofpdown1(int x);
+double2 __ocl_zorv_v8_cvti32tofpdown2(int2 x);
+double4 __ocl_zorv_v8_cvti32tofpdown3(int4 x);
+double4 __ocl_zorv_v8_cvti32tofpdown4(int4 x);
+double8 __ocl_zorv_v8_cvti32tofpdown8(int8 x);
+double16 __ocl_zorv_v8_cvti32tofpdown16(int16 x);
+
+/* cvtfptou32rtnsatf: x as uint, rounded to nearest, ties to even. x: float; result: uint.
+ * Clamped to the integer's range; NaN gives all ones, or 0 if its sign is set.
+ * Error: none, the value rounded as told.
+ * Rounded by a shifter, then converted exactly. */
+unsigned int __ocl_zorv_v8_cvtfptou32rtnsatf1(float x);
+uint2 __ocl_zorv_v8_cvtfptou32rtnsatf2(float2 x);
+uint4 __ocl_zorv_v8_cvtfptou32rtnsatf3(float4 x);
+uint4 __ocl_zorv_v8_cvtfptou32rtnsatf4(float4 x);
+uint8 __ocl_zorv_v8_cvtfptou32rtnsatf8(float8 x);
+uint16 __ocl_zorv_v8_cvtfptou32rtnsatf16(float16 x);
+
+/* cvtfptou32rtnsat: x as uint, rounded to nearest, ties to even. x: double; result: uint.
+ * Clamped to the integer's range; NaN gives all ones, or 0 if its sign is set.
+ * Error: none, the value rounded as told.
+ * Rounded by a shifter, then converted exactly. */
+unsigned int __ocl_zorv_v8_cvtfptou32rtnsat1(double x);
+uint2 __ocl_zorv_v8_cvtfptou32rtnsat2(double2 x);
+uint4 __ocl_zorv_v8_cvtfptou32rtnsat3(double4 x);
+uint4 __ocl_zorv_v8_cvtfptou32rtnsat4(double4 x);
+uint8 __ocl_zorv_v8_cvtfptou32rtnsat8(double8 x);
+uint16 __ocl_zorv_v8_cvtfptou32rtnsat16(double16 x);
+
+/* cvtfptou32rtnnosatf: x as uint, rounded to nearest, ties to even. x: float; result: uint.
+ * The sign is dropped after rounding; out of range and NaN give the lowest signed integer's pattern.
+ * Error: none, the value rounded as told.
+ * Rounded by a shifter, then converted exactly. */
+unsigned int __ocl_zorv_v8_cvtfptou32rtnnosatf1(float x);
+uint2 __ocl_zorv_v8_cvtfptou32rtnnosatf2(float2 x);
+uint4 __ocl_zorv_v8_cvtfptou32rtnnosatf3(float4 x);
+uint4 __ocl_zorv_v8_cvtfptou32rtnnosatf4(float4 x);
+uint8 __ocl_zorv_v8_cvtfptou32rtnnosatf8(float8 x);
+uint16 __ocl_zorv_v8_cvtfptou32rtnnosatf16(float16 x);
+
+/* cvtfptou32rtnnosat: x as uint, rounded to nearest, ties to even. x: double; result: uint.
+ * The sign is dropped after rounding; out of range and NaN give the lowest signed integer's pattern.
+ * Error: none, the value rounded as told.
+ * Rounded by a shifter, then converted exactly. */
+unsigned int __ocl_zorv_v8_cvtfptou32rtnnosat1(double x);
+uint2 __ocl_zorv_v8_cvtfptou32rtnnosat2(double2 x);
+uint4 __ocl_zorv_v8_cvtfptou32rtnnosat3(double4 x);
+uint4 __ocl_zorv_v8_cvtfptou32rtnnosat4(double4 x);
+uint8 __ocl_zorv_v8_cvtfptou32rtnnosat8(double8 x);
+uint16 __ocl_zorv_v8_cvtfptou32rtnnosat16(double16 x);
+
+/* cvtu32tofprtnf: x, of uint lanes, as floating, rounded to nearest, ties to even. x: uint; result: float.
+ * Every integer has a result; 0 gives +0.
+ * Error: none, the value rounded as told.
+ * Exact pieces, one rounded sum, a step on its bits where the rounding asks for one. */
+float __ocl_zorv_v8_cvtu32tofprtnf1(unsigned int x);
+float2 __ocl_zorv_v8_cvtu32tofprtnf2(uint2 x);
+float4 __ocl_zorv_v8_cvtu32tofprtnf3(uint4 x);
+float4 __ocl_zorv_v8_cvtu32tofprtnf4(uint4 x);
+float8 __ocl_zorv_v8_cvtu32tofprtnf8(uint8 x);
+float16 __ocl_zorv_v8_cvtu32tofprtnf16(uint16 x);
+
+/* cvtu32tofprtn: x, of uint lanes, as floating, rounded to nearest, ties to even. x: uint; result: double.
+ * Every integer has a result; 0 gives +0.
+ * Error: none, the value rounded as told.
+ * Exact pieces, one rounded sum, a step on its bits where the rounding asks for one. */
+double __ocl_zorv_v8_cvtu32tofprtn1(unsigned int x);
+double2 __ocl_zorv_v8_cvtu32tofprtn2(uint2 x);
+double4 __ocl_zorv_v8_cvtu32tofprtn3(uint4 x);
+double4 __ocl_zorv_v8_cvtu32tofprtn4(uint4 x);
+double8 __ocl_zorv_v8_cvtu32tofprtn8(uint8 x);
+double16 __ocl_zorv_v8_cvtu32tofprtn16(uint16 x);
+
+/* cvtfptou32rtzsatf: x as uint, rounded toward zero. x: float; result: uint.
+ * Clamped to the integer's range; NaN gives all ones, or 0 if its sign is set.
+ * Error: none, the value rounded as told.
+ * Rounded by a shifter, then converted exactly. */
+unsigned int __ocl_zorv_v8_cvtfptou32rtzsatf1(float x);
+uint2 __ocl_zorv_v8_cvtfptou32rtzsatf2(float2 x);
+uint4 __ocl_zorv_v8_cvtfptou32rtzsatf3(float4 x);
+uint4 __ocl_zorv_v8_cvtfptou32rtzsatf4(float4 x);
+uint8 __ocl_zorv_v8_cvtfptou32rtzsatf8(float8 x);
+uint16 __ocl_zorv_v8_cvtfptou32rtzsatf16(float16 x);
+
+/* cvtfptou32rtzsat: x as uint, rounded toward zero. x: double; result: uint.
+ * Clamped to the integer's range; NaN gives all ones, or 0 if its sign is set.
+ * Error: none, the value rounded as told.
+ * Rounded by a shifter, then converted exactly. */
+unsigned int __ocl_zorv_v8_cvtfptou32rtzsat1(double x);
+uint2 __ocl_zorv_v8_cvtfptou32rtzsat2(double2 x);
+uint4 __ocl_zorv_v8_cvtfptou32rtzsat3(double4 x);
+uint4 __ocl_zorv_v8_cvtfptou32rtzsat4(double4 x);
+uint8 __ocl_zorv_v8_cvtfptou32rtzsat8(double8 x);
+uint16 __ocl_zorv_v8_cvtfptou32rtzsat16(double16 x);
+
+/* cvtfptou32rtznosatf: x as uint, rounded toward zero. x: float; result: uint.
+ * The sign is dropped after rounding; out of range and NaN give the lowest signed integer's pattern.
+ * Error: none, the value rounded as told.
+ * Rounded by a shifter, then converted exactly. */
+unsigned int __ocl_zorv_v8_cvtfptou32rtznosatf1(float x);
+uint2 __ocl_zorv_v8_cvtfptou32rtznosatf2(float2 x);
+uint4 __ocl_zorv_v8_cvtfptou32rtznosatf3(float4 x);
+uint4 __ocl_zorv_v8_cvtfptou32rtznosatf4(float4 x);
+uint8 __ocl_zorv_v8_cvtfptou32rtznosatf8(float8 x);
+uint16 __ocl_zorv_v8_cvtfptou32rtznosatf16(float16 x);
+
+/* cvtfptou32rtznosat: x as uint, rounded toward zero. x: double; result: uint.
+ * The sign is dropped after rounding; out of range and NaN give the lowest signed integer's pattern.
+ * Error: none, the value rounded as told.
+ * Rounded by a shifter, then converted exactly. */
+unsigned int __ocl_zorv_v8_cvtfptou32rtznosat1(double x);
+uint2 __ocl_zorv_v8_cvtfptou32rtznosat2(double2 x);
+uint4 __ocl_zorv_v8_cvtfptou32rtznosat3(double4 x);
+uint4 __ocl_zorv_v8_cvtfptou32rtznosat4(double4 x);
+uint8 __ocl_zorv_v8_cvtfptou32rtznosat8(double8 x);
+uint16 __ocl_zorv_v8_cvtfptou32rtznosat16(double16 x);
+
+/* cvtu32tofprtzf: x, of uint lanes, as floating, rounded toward zero. x: uint; result: float.
+ * Every integer has a result; 0 gives +0.
+ * Error: none, the value rounded as told.
+ * Exact pieces, one rounded sum, a step on its bits where the rounding asks for one. */
+float __ocl_zorv_v8_cvtu32tofprtzf1(unsigned int x);
+float2 __ocl_zorv_v8_cvtu32tofprtzf2(uint2 x);
+float4 __ocl_zorv_v8_cvtu32tofprtzf3(uint4 x);
+float4 __ocl_zorv_v8_cvtu32tofprtzf4(uint4 x);
+float8 __ocl_zorv_v8_cvtu32tofprtzf8(uint8 x);
+float16 __ocl_zorv_v8_cvtu32tofprtzf16(uint16 x);
+
+/* cvtu32tofprtz: x, of uint lanes, as floating, rounded toward zero. x: uint; result: double.
+ * Every integer has a result; 0 gives +0.
+ * Error: none, the value rounded as told.
+ * Exact pieces, one rounded sum, a step on its bits where the rounding asks for one. */
+double __ocl_zorv_v8_cvtu32tofprtz1(unsigned int x);
+double2 __ocl_zorv_v8_cvtu32tofprtz2(uint2 x);
+double4 __ocl_zorv_v8_cvtu32tofprtz3(uint4 x);
+double4 __ocl_zorv_v8_cvtu32tofprtz4(uint4 x);
+double8 __ocl_zorv_v8_cvtu32tofprtz8(uint8 x);
+double16 __ocl_zorv_v8_cvtu32tofprtz16(uint16 x);
+
+/* cvtfptou32upsatf: x as uint, rounded toward positive infinity. x: float; result: uint.
+ * Clamped to the integer's range; NaN gives all ones, or 0 if its sign is set.
+ * Error: none, the value rounded as told.
+ * Rounded by a shifter, then converted exactly. */
+unsigned int __ocl_zorv_v8_cvtfptou32upsatf1(float x);
+uint2 __ocl_zorv_v8_cvtfptou32upsatf2(float2 x);
+uint4 __ocl_zorv_v8_cvtfptou32upsatf3(float4 x);
+uint4 __ocl_zorv_v8_cvtfptou32upsatf4(float4 x);
+uint8 __ocl_zorv_v8_cvtfptou32upsatf8(float8 x);
+uint16 __ocl_zorv_v8_cvtfptou32upsatf16(float16 x);
+
+/* cvtfptou32upsat: x as uint, rounded toward positive infinity. x: double; result: uint.
+ * Clamped to the integer's range; NaN gives all ones, or 0 if its sign is set.
+ * Error: none, the value rounded as told.
+ * Rounded by a shifter, then converted exactly. */
+unsigned int __ocl_zorv_v8_cvtfptou32upsat1(double x);
+uint2 __ocl_zorv_v8_cvtfptou32upsat2(double2 x);
+uint4 __ocl_zorv_v8_cvtfptou32upsat3(double4 x);
+uint4 __ocl_zorv_v8_cvtfptou32upsat4(double4 x);
+uint8 __ocl_zorv_v8_cvtfptou32upsat8(double8 x);
+uint16 __ocl_zorv_v8_cvtfptou32upsat16(double16 x);
+
+/* cvtfptou32upnosatf: x as uint, rounded toward positive infinity. x: float; result: uint.
+ * The sign is dropped after rounding; out of range and NaN give the lowest signed integer's pattern.
+ * Error: none, the value rounded as told.
+ * Rounded by a shifter, then converted exactly. */
+unsigned int __ocl_zorv_v8_cvtfptou32upnosatf1(float x);
+uint2 __ocl_zorv_v8_cvtfptou32upnosatf2(float2 x);
+uint4 __ocl_zorv_v8_cvtfptou32upnosatf3(float4 x);
+uint4 __ocl_zorv_v8_cvtfptou32upnosatf4(float4 x);
+uint8 __ocl_zorv_v8_cvtfptou32upnosatf8(float8 x);
+uint16 __ocl_zorv_v8_cvtfptou32upnosatf16(float16 x);
+
+/* cvtfptou32upnosat: x as uint, rounded toward positive infinity. x: double; result: uint.
+ * The sign is dropped after rounding; out of range and NaN give the lowest signed integer's pattern.
+ * Error: none, the value rounded as told.
+ * Rounded by a shifter, then converted exactly. */
+unsigned int __ocl_zorv_v8_cvtfptou32upnosat1(double x);
+uint2 __ocl_zorv_v8_cvtfptou32upnosat2(double2 x);
+uint4 __ocl_zorv_v8_cvtfptou32upnosat3(double4 x);
+uint4 __ocl_zorv_v8_cvtfptou32upnosat4(double4 x);
+uint8 __ocl_zorv_v8_cvtfptou32upnosat8(double8 x);
+uint16 __ocl_zorv_v8_cvtfptou32upnosat16(double16 x);
+
+/* cvtu32tofpupf: x, of uint lanes, as floating, rounded toward positive infinity. x: uint; result: float.
+ * Every integer has a result; 0 gives +0.
+ * Error: none, the value rounded as told.
+ * Exact pieces, one rounded sum, a step on its bits where the rounding asks for one. */
+float __ocl_zorv_v8_cvtu32tofpupf1(unsigned int x);
+float2 __ocl_zorv_v8_cvtu32tofpupf2(uint2 x);
+float4 __ocl_zorv_v8_cvtu32tofpupf3(uint4 x);
+float4 __ocl_zorv_v8_cvtu32tofpupf4(uint4 x);
+float8 __ocl_zorv_v8_cvtu32tofpupf8(uint8 x);
+float16 __ocl_zorv_v8_cvtu32tofpupf16(uint16 x);
+
+/* cvtu32tofpup: x, of uint lanes, as floating, rounded toward positive infinity. x: uint; result: double.
+ * Every integer has a result; 0 gives +0.
+ * Error: none, the value rounded as told.
+ * Exact pieces, one rounded sum, a step on its bits where the rounding asks for one. */
+double __ocl_zorv_v8_cvtu32tofpup1(unsigned int x);
+double2 __ocl_zorv_v8_cvtu32tofpup2(uint2 x);
+double4 __ocl_zorv_v8_cvtu32tofpup3(uint4 x);
+double4 __ocl_zorv_v8_cvtu32tofpup4(uint4 x);
+double8 __ocl_zorv_v8_cvtu32tofpup8(uint8 x);
+double16 __ocl_zorv_v8_cvtu32tofpup16(uint16 x);
+
+/* cvtfptou32downsatf: x as uint, rounded toward negative infinity. x: float; result: uint.
+ * Clamped to the integer's range; NaN gives all ones, or 0 if its sign is set.
+ * Error: none, the value rounded as told.
+ * Rounded by a shifter, then converted exactly. */
+unsigned int __ocl_zorv_v8_cvtfptou32downsatf1(float x);
+uint2 __ocl_zorv_v8_cvtfptou32downsatf2(float2 x);
+uint4 __ocl_zorv_v8_cvtfptou32downsatf3(float4 x);
+uint4 __ocl_zorv_v8_cvtfptou32downsatf4(float4 x);
+uint8 __ocl_zorv_v8_cvtfptou32downsatf8(float8 x);
+uint16 __ocl_zorv_v8_cvtfptou32downsatf16(float16 x);
+
+/* cvtfptou32downsat: x as uint, rounded toward negative infinity. x: double; result: uint.
+ * Clamped to the integer's range; NaN gives all ones, or 0 if its sign is set.
+ * Error: none, the value rounded as told.
+ * Rounded by a shifter, then converted exactly. */
+unsigned int __ocl_zorv_v8_cvtfptou32downsat1(double x);
+uint2 __ocl_zorv_v8_cvtfptou32downsat2(double2 x);
+uint4 __ocl_zorv_v8_cvtfptou32downsat3(double4 x);
+uint4 __ocl_zorv_v8_cvtfptou32downsat4(double4 x);
+uint8 __ocl_zorv_v8_cvtfptou32downsat8(double8 x);
+uint16 __ocl_zorv_v8_cvtfptou32downsat16(double16 x);
+
+/* cvtfptou32downnosatf: x as uint, rounded toward negative infinity. x: float; result: uint.
+ * The sign is dropped after rounding; out of range and NaN give the lowest signed integer's pattern.
+ * Error: none, the value rounded as told.
+ * Rounded by a shifter, then converted exactly. */
+unsigned int __ocl_zorv_v8_cvtfptou32downnosatf1(float x);
+uint2 __ocl_zorv_v8_cvtfptou32downnosatf2(float2 x);
+uint4 __ocl_zorv_v8_cvtfptou32downnosatf3(float4 x);
+uint4 __ocl_zorv_v8_cvtfptou32downnosatf4(float4 x);
+uint8 __ocl_zorv_v8_cvtfptou32downnosatf8(float8 x);
+uint16 __ocl_zorv_v8_cvtfptou32downnosatf16(float16 x);
+
+/* cvtfptou32downnosat: x as uint, rounded toward negative infinity. x: double; result: uint.
+ * The sign is dropped after rounding; out of range and NaN give the lowest signed integer's pattern.
+ * Error: none, the value rounded as told.
+ * Rounded by a shifter, then converted exactly. */
+unsigned int __ocl_zorv_v8_cvtfptou32downnosat1(double x);
+uint2 __ocl_zorv_v8_cvtfptou32downnosat2(double2 x);
+uint4 __ocl_zorv_v8_cvtfptou32downnosat3(double4 x);
+uint4 __ocl_zorv_v8_cvtfptou32downnosat4(double4 x);
+uint8 __ocl_zorv_v8_cvtfptou32downnosat8(double8 x);
+uint16 __ocl_zorv_v8_cvtfptou32downnosat16(double16 x);
+
+/* cvtu32tofpdownf: x, of uint lanes, as floating, rounded toward negative infinity. x: uint; result: float.
+ * Every integer has a result; 0 gives +0.
+ * Error: none, the value rounded as told.
+ * Exact pieces, one rounded sum, a step on its bits where the rounding asks for one. */
+float __ocl_zorv_v8_cvtu32tofpdownf1(unsigned int x);
+float2 __ocl_zorv_v8_cvtu32tofpdownf2(uint2 x);
+float4 __ocl_zorv_v8_cvtu32tofpdownf3(uint4 x);
+float4 __ocl_zorv_v8_cvtu32tofpdownf4(uint4 x);
+float8 __ocl_zorv_v8_cvtu32tofpdownf8(uint8 x);
+float16 __ocl_zorv_v8_cvtu32tofpdownf16(uint16 x);
+
+/* cvtu32tofpdown: x, of uint lanes, as floating, rounded toward negative infinity. x: uint; result: double.
+ * Every integer has a result; 0 gives +0.
+ * Error: none, the value rounded as told.
+ * Exact pieces, one rounded sum, a step on its bits where the rounding asks for one. */
+double __ocl_zorv_v8_cvtu32tofpdown1(unsigned int x);
+double2 __ocl_zorv_v8_cvtu32tofpdown2(uint2 x);
+double4 __ocl_zorv_v8_cvtu32tofpdown3(uint4 x);
+double4 __ocl_zorv_v8_cvtu32tofpdown4(uint4 x);
+double8 __ocl_zorv_v8_cvtu32tofpdown8(uint8 x);
+double16 __ocl_zorv_v8_cvtu32tofpdown16(uint16 x);
+
+/* cvtfptoi64rtnsatf: x as long, rounded to nearest, ties to even. x: float; result: long.
+ * Clamped to the integer's range; NaN gives 0.
+ * Error: none, the value rounded as told.
+ * Rounded by a shifter, then converted exactly. */
+__INT64_TYPE__ __ocl_zorv_v8_cvtfptoi64rtnsatf1(float x);
+long2 __ocl_zorv_v8_cvtfptoi64rtnsatf2(float2 x);
+long4 __ocl_zorv_v8_cvtfptoi64rtnsatf3(float4 x);
+long4 __ocl_zorv_v8_cvtfptoi64rtnsatf4(float4 x);
+long8 __ocl_zorv_v8_cvtfptoi64rtnsatf8(float8 x);
+long16 __ocl_zorv_v8_cvtfptoi64rtnsatf16(float16 x);
+
+/* cvtfptoi64rtnsat: x as long, rounded to nearest, ties to even. x: double; result: long.
+ * Clamped to the integer's range; NaN gives 0.
+ * Error: none, the value rounded as told.
+ * Rounded by a shifter, then converted exactly. */
+__INT64_TYPE__ __ocl_zorv_v8_cvtfptoi64rtnsat1(double x);
+long2 __ocl_zorv_v8_cvtfptoi64rtnsat2(double2 x);
+long4 __ocl_zorv_v8_cvtfptoi64rtnsat3(double4 x);
+long4 __ocl_zorv_v8_cvtfptoi64rtnsat4(double4 x);
+long8 __ocl_zorv_v8_cvtfptoi64rtnsat8(double8 x);
+long16 __ocl_zorv_v8_cvtfptoi64rtnsat16(double16 x);
+
+/* cvtfptoi64rtnnosatf: x as long, rounded to nearest, ties to even. x: float; result: long.
+ * Out of range and NaN give the lowest signed integer's pattern.
+ * Error: none, the value rounded as told.
+ * Rounded by a shifter, then converted exactly. */
+__INT64_TYPE__ __ocl_zorv_v8_cvtfptoi64rtnnosatf1(float x);
+long2 __ocl_zorv_v8_cvtfptoi64rtnnosatf2(float2 x);
+long4 __ocl_zorv_v8_cvtfptoi64rtnnosatf3(float4 x);
+long4 __ocl_zorv_v8_cvtfptoi64rtnnosatf4(float4 x);
+long8 __ocl_zorv_v8_cvtfptoi64rtnnosatf8(float8 x);
+long16 __ocl_zorv_v8_cvtfptoi64rtnnosatf16(float16 x);
+
+/* cvtfptoi64rtnnosat: x as long, rounded to nearest, ties to even. x: double; result: long.
+ * Out of range and NaN give the lowest signed integer's pattern.
+ * Error: none, the value rounded as told.
+ * Rounded by a shifter, then converted exactly. */
+__INT64_TYPE__ __ocl_zorv_v8_cvtfptoi64rtnnosat1(double x);
+long2 __ocl_zorv_v8_cvtfptoi64rtnnosat2(double2 x);
+long4 __ocl_zorv_v8_cvtfptoi64rtnnosat3(double4 x);
+long4 __ocl_zorv_v8_cvtfptoi64rtnnosat4(double4 x);
+long8 __ocl_zorv_v8_cvtfptoi64rtnnosat8(double8 x);
+long16 __ocl_zorv_v8_cvtfptoi64rtnnosat16(double16 x);
+
+/* cvti64tofprtnf: x, of long lanes, as floating, rounded to nearest, ties to even. x: long; result: float.
+ * Every integer has a result; 0 gives +0.
+ * Error: none, the value rounded as told.
+ * Exact pieces, one rounded sum, a step on its bits where the rounding asks for one. */
+float __ocl_zorv_v8_cvti64tofprtnf1(__INT64_TYPE__ x);
+float2 __ocl_zorv_v8_cvti64tofprtnf2(long2 x);
+float4 __ocl_zorv_v8_cvti64tofprtnf3(long4 x);
+float4 __ocl_zorv_v8_cvti64tofprtnf4(long4 x);
+float8 __ocl_zorv_v8_cvti64tofprtnf8(long8 x);
+float16 __ocl_zorv_v8_cvti64tofprtnf16(long16 x);
+
+/* cvti64tofprtn: x, of long lanes, as floating, rounded to nearest, ties to even. x: long; result: double.
+ * Every integer has a result; 0 gives +0.
+ * Error: none, the value rounded as told.
+ * Exact pieces, one rounded sum, a step on its bits where the rounding asks for one. */
+double __ocl_zorv_v8_cvti64tofprtn1(__INT64_TYPE__ x);
+double2 __ocl_zorv_v8_cvti64tofprtn2(long2 x);
+double4 __ocl_zorv_v8_cvti64tofprtn3(long4 x);
+double4 __ocl_zorv_v8_cvti64tofprtn4(long4 x);
+double8 __ocl_zorv_v8_cvti64tofprtn8(long8 x);
+double16 __ocl_zorv_v8_cvti64tofprtn16(long16 x);
+
+/* cvtfptoi64rtzsatf: x as long, rounded toward zero. x: float; result: long.
+ * Clamped to the integer's range; NaN gives 0.
+ * Error: none, the value rounded as told.
+ * Rounded by a shifter, then converted exactly. */
+__INT64_TYPE__ __ocl_zorv_v8_cvtfptoi64rtzsatf1(float x);
+long2 __ocl_zorv_v8_cvtfptoi64rtzsatf2(float2 x);
+long4 __ocl_zorv_v8_cvtfptoi64rtzsatf3(float4 x);
+long4 __ocl_zorv_v8_cvtfptoi64rtzsatf4(float4 x);
+long8 __ocl_zorv_v8_cvtfptoi64rtzsatf8(float8 x);
+long16 __ocl_zorv_v8_cvtfptoi64rtzsatf16(float16 x);
+
+/* cvtfptoi64rtzsat: x as long, rounded toward zero. x: double; result: long.
+ * Clamped to the integer's range; NaN gives 0.
+ * Error: none, the value rounded as told.
+ * Rounded by a shifter, then converted exactly. */
+__INT64_TYPE__ __ocl_zorv_v8_cvtfptoi64rtzsat1(double x);
+long2 __ocl_zorv_v8_cvtfptoi64rtzsat2(double2 x);
+long4 __ocl_zorv_v8_cvtfptoi64rtzsat3(double4 x);
+long4 __ocl_zorv_v8_cvtfptoi64rtzsat4(double4 x);
+long8 __ocl_zorv_v8_cvtfptoi64rtzsat8(double8 x);
+long16 __ocl_zorv_v8_cvtfptoi64rtzsat16(double16 x);
+
+/* cvtfptoi64rtznosatf: x as long, rounded toward zero. x: float; result: long.
+ * Out of range and NaN give the lowest signed integer's pattern.
+ * Error: none, the value rounded as told.
+ * Rounded by a shifter, then converted exactly. */
+__INT64_TYPE__ __ocl_zorv_v8_cvtfptoi64rtznosatf1(float x);
+long2 __ocl_zorv_v8_cvtfptoi64rtznosatf2(float2 x);
+long4 __ocl_zorv_v8_cvtfptoi64rtznosatf3(float4 x);
+long4 __ocl_zorv_v8_cvtfptoi64rtznosatf4(float4 x);
+long8 __ocl_zorv_v8_cvtfptoi64rtznosatf8(float8 x);
+long16 __ocl_zorv_v8_cvtfptoi64rtznosatf16(float16 x);
+
+/* cvtfptoi64rtznosat: x as long, rounded toward zero. x: double; result: long.
+ * Out of range and NaN give the lowest signed integer's pattern.
+ * Error: none, the value rounded as told.
+ * Rounded by a shifter, then converted exactly. */
+__INT64_TYPE__ __ocl_zorv_v8_cvtfptoi64rtznosat1(double x);
+long2 __ocl_zorv_v8_cvtfptoi64rtznosat2(double2 x);
+long4 __ocl_zorv_v8_cvtfptoi64rtznosat3(double4 x);
+long4 __ocl_zorv_v8_cvtfptoi64rtznosat4(double4 x);
+long8 __ocl_zorv_v8_cvtfptoi64rtznosat8(double8 x);
+long16 __ocl_zorv_v8_cvtfptoi64rtznosat16(double16 x);
+
+/* cvti64tofprtzf: x, of long lanes, as floating, rounded toward zero. x: long; result: float.
+ * Every integer has a result; 0 gives +0.
+ * Error: none, the value rounded as told.
+ * Exact pieces, one rounded sum, a step on its bits where the rounding asks for one. */
+float __ocl_zorv_v8_cvti64tofprtzf1(__INT64_TYPE__ x);
+float2 __ocl_zorv_v8_cvti64tofprtzf2(long2 x);
+float4 __ocl_zorv_v8_cvti64tofprtzf3(long4 x);
+float4 __ocl_zorv_v8_cvti64tofprtzf4(long4 x);
+float8 __ocl_zorv_v8_cvti64tofprtzf8(long8 x);
+float16 __ocl_zorv_v8_cvti64tofprtzf16(long16 x);
+
+/* cvti64tofprtz: x, of long lanes, as floating, rounded toward zero. x: long; result: double.
+ * Every integer has a result; 0 gives +0.
+ * Error: none, the value rounded as told.
+ * Exact pieces, one rounded sum, a step on its bits where the rounding asks for one. */
+double __ocl_zorv_v8_cvti64tofprtz1(__INT64_TYPE__ x);
+double2 __ocl_zorv_v8_cvti64tofprtz2(long2 x);
+double4 __ocl_zorv_v8_cvti64tofprtz3(long4 x);
+double4 __ocl_zorv_v8_cvti64tofprtz4(long4 x);
+double8 __ocl_zorv_v8_cvti64tofprtz8(long8 x);
+double16 __ocl_zorv_v8_cvti64tofprtz16(long16 x);
+
+/* cvtfptoi64upsatf: x as long, rounded toward positive infinity. x: float; result: long.
+ * Clamped to the integer's range; NaN gives 0.
+ * Error: none, the value rounded as told.
+ * Rounded by a shifter, then converted exactly. */
+__INT64_TYPE__ __ocl_zorv_v8_cvtfptoi64upsatf1(float x);
+long2 __ocl_zorv_v8_cvtfptoi64upsatf2(float2 x);
+long4 __ocl_zorv_v8_cvtfptoi64upsatf3(float4 x);
+long4 __ocl_zorv_v8_cvtfptoi64upsatf4(float4 x);
+long8 __ocl_zorv_v8_cvtfptoi64upsatf8(float8 x);
+long16 __ocl_zorv_v8_cvtfptoi64upsatf16(float16 x);
+
+/* cvtfptoi64upsat: x as long, rounded toward positive infinity. x: double; result: long.
+ * Clamped to the integer's range; NaN gives 0.
+ * Error: none, the value rounded as told.
+ * Rounded by a shifter, then converted exactly. */
+__INT64_TYPE__ __ocl_zorv_v8_cvtfptoi64upsat1(double x);
+long2 __ocl_zorv_v8_cvtfptoi64upsat2(double2 x);
+long4 __ocl_zorv_v8_cvtfptoi64upsat3(double4 x);
+long4 __ocl_zorv_v8_cvtfptoi64upsat4(double4 x);
+long8 __ocl_zorv_v8_cvtfptoi64upsat8(double8 x);
+long16 __ocl_zorv_v8_cvtfptoi64upsat16(double16 x);
+
+/* cvtfptoi64upnosatf: x as long, rounded toward positive infinity. x: float; result: long.
+ * Out of range and NaN give the lowest signed integer's pattern.
+ * Error: none, the value rounded as told.
+ * Rounded by a shifter, then converted exactly. */
+__INT64_TYPE__ __ocl_zorv_v8_cvtfptoi64upnosatf1(float x);
+long2 __ocl_zorv_v8_cvtfptoi64upnosatf2(float2 x);
+long4 __ocl_zorv_v8_cvtfptoi64upnosatf3(float4 x);
+long4 __ocl_zorv_v8_cvtfptoi64upnosatf4(float4 x);
+long8 __ocl_zorv_v8_cvtfptoi64upnosatf8(float8 x);
+long16 __ocl_zorv_v8_cvtfptoi64upnosatf16(float16 x);
+
+/* cvtfptoi64upnosat: x as long, rounded toward positive infinity. x: double; result: long.
+ * Out of range and NaN give the lowest signed integer's pattern.
+ * Error: none, the value rounded as told.
+ * Rounded by a shifter, then converted exactly. */
+__INT64_TYPE__ __ocl_zorv_v8_cvtfptoi64upnosat1(double x);
+long2 __ocl_zorv_v8_cvtfptoi64upnosat2(double2 x);
+long4 __ocl_zorv_v8_cvtfptoi64upnosat3(double4 x);
+long4 __ocl_zorv_v8_cvtfptoi64upnosat4(double4 x);
+long8 __ocl_zorv_v8_cvtfptoi64upnosat8(double8 x);
+long16 __ocl_zorv_v8_cvtfptoi64upnosat16(double16 x);
+
+/* cvti64tofpupf: x, of long lanes, as floating, rounded toward positive infinity. x: long; result: float.
+ * Every integer has a result; 0 gives +0.
+ * Error: none, the value rounded as told.
+ * Exact pieces, one rounded sum, a step on its bits where the rounding asks for one. */
+float __ocl_zorv_v8_cvti64tofpupf1(__INT64_TYPE__ x);
+float2 __ocl_zorv_v8_cvti64tofpupf2(long2 x);
+float4 __ocl_zorv_v8_cvti64tofpupf3(long4 x);
+float4 __ocl_zorv_v8_cvti64tofpupf4(long4 x);
+float8 __ocl_zorv_v8_cvti64tofpupf8(long8 x);
+float16 __ocl_zorv_v8_cvti64tofpupf16(long16 x);
+
+/* cvti64tofpup: x, of long lanes, as floating, rounded toward positive infinity. x: long; result: double.
+ * Every integer has a result; 0 gives +0.
+ * Error: none, the value rounded as told.
+ * Exact pieces, one rounded sum, a step on its bits where the rounding asks for one. */
+double __ocl_zorv_v8_cvti64tofpup1(__INT64_TYPE__ x);
+double2 __ocl_zorv_v8_cvti64tofpup2(long2 x);
+double4 __ocl_zorv_v8_cvti64tofpup3(long4 x);
+double4 __ocl_zorv_v8_cvti64tofpup4(long4 x);
+double8 __ocl_zorv_v8_cvti64tofpup8(long8 x);
+double16 __ocl_zorv_v8_cvti64tofpup16(long16 x);
+
+/* cvtfptoi64downsatf: x as long, rounded toward negative infinity. x: float; result: long.
+ * Clamped to the integer's range; NaN gives 0.
+ * Error: none, the value rounded as told.
+ * Rounded by a shifter, then converted exactly. */
+__INT64_TYPE__ __ocl_zorv_v8_cvtfptoi64downsatf1(float x);
+long2 __ocl_zorv_v8_cvtfptoi64downsatf2(float2 x);
+long4 __ocl_zorv_v8_cvtfptoi64downsatf3(float4 x);
+long4 __ocl_zorv_v8_cvtfptoi64downsatf4(float4 x);
+long8 __ocl_zorv_v8_cvtfptoi64downsatf8(float8 x);
+long16 __ocl_zorv_v8_cvtfptoi64downsatf16(float16 x);
+
+/* cvtfptoi64downsat: x as long, rounded toward negative infinity. x: double; result: long.
+ * Clamped to the integer's range; NaN gives 0.
+ * Error: none, the value rounded as told.
+ * Rounded by a shifter, then converted exactly. */
+__INT64_TYPE__ __ocl_zorv_v8_cvtfptoi64downsat1(double x);
+long2 __ocl_zorv_v8_cvtfptoi64downsat2(double2 x);
+long4 __ocl_zorv_v8_cvtfptoi64downsat3(double4 x);
+long4 __ocl_zorv_v8_cvtfptoi64downsat4(double4 x);
+long8 __ocl_zorv_v8_cvtfptoi64downsat8(double8 x);
+long16 __ocl_zorv_v8_cvtfptoi64downsat16(double16 x);
+
+/* cvtfptoi64downnosatf: x as long, rounded toward negative infinity. x: float; result: long.
+ * Out of range and NaN give the lowest signed integer's pattern.
+ * Error: none, the value rounded as told.
+ * Rounded by a shifter, then converted exactly. */
+__INT64_TYPE__ __ocl_zorv_v8_cvtfptoi64downnosatf1(float x);
+long2 __ocl_zorv_v8_cvtfptoi64downnosatf2(float2 x);
+long4 __ocl_zorv_v8_cvtfptoi64downnosatf3(float4 x);
+long4 __ocl_zorv_v8_cvtfptoi64downnosatf4(float4 x);
+long8 __ocl_zorv_v8_cvtfptoi64downnosatf8(float8 x);
+long16 __ocl_zorv_v8_cvtfptoi64downnosatf16(float16 x);
+
+/* cvtfptoi64downnosat: x as long, rounded toward negative infinity. x: double; result: long.
+ * Out of range and NaN give the lowest signed integer's pattern.
+ * Error: none, the value rounded as told.
+ * Rounded by a shifter, then converted exactly. */
+__INT64_TYPE__ __ocl_zorv_v8_cvtfptoi64downnosat1(double x);
+long2 __ocl_zorv_v8_cvtfptoi64downnosat2(double2 x);
+long4 __ocl_zorv_v8_cvtfptoi64downnosat3(double4 x);
+long4 __ocl_zorv_v8_cvtfptoi64downnosat4(double4 x);
+long8 __ocl_zorv_v8_cvtfptoi64downnosat8(double8 x);
+long16 __ocl_zorv_v8_cvtfptoi64downnosat16(double16 x);
+
+/* cvti64tofpdownf: x, of long lanes, as floating, rounded toward negative infinity. x: long; result: float.
+ * Every integer has a result; 0 gives +0.
+ * Error: none, the value rounded as told.
+ * Exact pieces, one rounded sum, a step on its bits where the rounding asks for one. */
+float __ocl_zorv_v8_cvti64tofpdownf1(__INT64_TYPE__ x);
+float2 __ocl_zorv_v8_cvti64tofpdownf2(long2 x);
+float4 __ocl_zorv_v8_cvti64tofpdownf3(long4 x);
+float4 __ocl_zorv_v8_cvti64tofpdownf4(long4 x);
+float8 __ocl_zorv_v8_cvti64tofpdownf8(long8 x);
+float16 __ocl_zorv_v8_cvti64tofpdownf16(long16 x);
+
+/* cvti64tofpdown: x, of long lanes, as floating, rounded toward negative infinity. x: long; result: double.
+ * Every integer has a result; 0 gives +0.
+ * Error: none, the value rounded as told.
+ * Exact pieces, one rounded sum, a step on its bits where the rounding asks for one. */
+double __ocl_zorv_v8_cvti64tofpdown1(__INT64_TYPE__ x);
+double2 __ocl_zorv_v8_cvti64tofpdown2(long2 x);
+double4 __ocl_zorv_v8_cvti64tofpdown3(long4 x);
+double4 __ocl_zorv_v8_cvti64tofpdown4(long4 x);
+double8 __ocl_zorv_v8_cvti64tofpdown8(long8 x);
+double16 __ocl_zorv_v8_cvti64tofpdown16(long16 x);
+
+/* cvtfptou64rtnsatf: x as ulong, rounded to nearest, ties to even. x: float; result: ulong.
+ * Clamped to the integer's range; NaN gives 0.
+ * Error: none, the value rounded as told.
+ * Rounded by a shifter, then converted exactly. */
+__UINT64_TYPE__ __ocl_zorv_v8_cvtfptou64rtnsatf1(float x);
+ulong2 __ocl_zorv_v8_cvtfptou64rtnsatf2(float2 x);
+ulong4 __ocl_zorv_v8_cvtfptou64rtnsatf3(float4 x);
+ulong4 __ocl_zorv_v8_cvtfptou64rtnsatf4(float4 x);
+ulong8 __ocl_zorv_v8_cvtfptou64rtnsatf8(float8 x);
+ulong16 __ocl_zorv_v8_cvtfptou64rtnsatf16(float16 x);
+
+/* cvtfptou64rtnsat: x as ulong, rounded to nearest, ties to even. x: double; result: ulong.
+ * Clamped to the integer's range; NaN gives 0.
+ * Error: none, the value rounded as told.
+ * Rounded by a shifter, then converted exactly. */
+__UINT64_TYPE__ __ocl_zorv_v8_cvtfptou64rtnsat1(double x);
+ulong2 __ocl_zorv_v8_cvtfptou64rtnsat2(double2 x);
+ulong4 __ocl_zorv_v8_cvtfptou64rtnsat3(double4 x);
+ulong4 __ocl_zorv_v8_cvtfptou64rtnsat4(double4 x);
+ulong8 __ocl_zorv_v8_cvtfptou64rtnsat8(double8 x);
+ulong16 __ocl_zorv_v8_cvtfptou64rtnsat16(double16 x);
+
+/* cvtfptou64rtnnosatf: x as ulong, rounded to nearest, ties to even. x: float; result: ulong.
+ * The sign is dropped after rounding; out of range and NaN give the lowest signed integer's pattern.
+ * Error: none, the value rounded as told.
+ * Rounded by a shifter, then converted exactly. */
+__UINT64_TYPE__ __ocl_zorv_v8_cvtfptou64rtnnosatf1(float x);
+ulong2 __ocl_zorv_v8_cvtfptou64rtnnosatf2(float2 x);
+ulong4 __ocl_zorv_v8_cvtfptou64rtnnosatf3(float4 x);
+ulong4 __ocl_zorv_v8_cvtfptou64rtnnosatf4(float4 x);
+ulong8 __ocl_zorv_v8_cvtfptou64rtnnosatf8(float8 x);
+ulong16 __ocl_zorv_v8_cvtfptou64rtnnosatf16(float16 x);
+
+/* cvtfptou64rtnnosat: x as ulong, rounded to nearest, ties to even. x: double; result: ulong.
+ * The sign is dropped after rounding; out of range and NaN give the lowest signed integer's pattern.
+ * Error: none, the value rounded as told.
+ * Rounded by a shifter, then converted exactly. */
+__UINT64_TYPE__ __ocl_zorv_v8_cvtfptou64rtnnosat1(double x);
+ulong2 __ocl_zorv_v8_cvtfptou64rtnnosat2(double2 x);
+ulong4 __ocl_zorv_v8_cvtfptou64rtnnosat3(double4 x);
+ulong4 __ocl_zorv_v8_cvtfptou64rtnnosat4(double4 x);
+ulong8 __ocl_zorv_v8_cvtfptou64rtnnosat8(double8 x);
+ulong16 __ocl_zorv_v8_cvtfptou64rtnnosat16(double16 x);
+
+/* cvtu64tofprtnf: x, of ulong lanes, as floating, rounded to nearest, ties to even. x: ulong; result: float.
+ * Every integer has a result; 0 gives +0.
+ * Error: none, the value rounded as told.
+ * Exact pieces, one rounded sum, a step on its bits where the rounding asks for one. */
+float __ocl_zorv_v8_cvtu64tofprtnf1(__UINT64_TYPE__ x);
+float2 __ocl_zorv_v8_cvtu64tofprtnf2(ulong2 x);
+float4 __ocl_zorv_v8_cvtu64tofprtnf3(ulong4 x);
+float4 __ocl_zorv_v8_cvtu64tofprtnf4(ulong4 x);
+float8 __ocl_zorv_v8_cvtu64tofprtnf8(ulong8 x);
+float16 __ocl_zorv_v8_cvtu64tofprtnf16(ulong16 x);
+
+/* cvtu64tofprtn: x, of ulong lanes, as floating, rounded to nearest, ties to even. x: ulong; result: double.
+ * Every integer has a result; 0 gives +0.
+ * Error: none, the value rounded as told.
+ * Exact pieces, one rounded sum, a step on its bits where the rounding asks for one. */
+double __ocl_zorv_v8_cvtu64tofprtn1(__UINT64_TYPE__ x);
+double2 __ocl_zorv_v8_cvtu64tofprtn2(ulong2 x);
+double4 __ocl_zorv_v8_cvtu64tofprtn3(ulong4 x);
+double4 __ocl_zorv_v8_cvtu64tofprtn4(ulong4 x);
+double8 __ocl_zorv_v8_cvtu64tofprtn8(ulong8 x);
+double16 __ocl_zorv_v8_cvtu64tofprtn16(ulong16 x);
+
+/* cvtfptou64rtzsatf: x as ulong, rounded toward zero. x: float; result: ulong.
+ * Clamped to the integer's range; NaN gives 0.
+ * Error: none, the value rounded as told.
+ * Rounded by a shifter, then converted exactly. */
+__UINT64_TYPE__ __ocl_zorv_v8_cvtfptou64rtzsatf1(float x);
+ulong2 __ocl_zorv_v8_cvtfptou64rtzsatf2(float2 x);
+ulong4 __ocl_zorv_v8_cvtfptou64rtzsatf3(float4 x);
+ulong4 __ocl_zorv_v8_cvtfptou64rtzsatf4(float4 x);
+ulong8 __ocl_zorv_v8_cvtfptou64rtzsatf8(float8 x);
+ulong16 __ocl_zorv_v8_cvtfptou64rtzsatf16(float16 x);
+
+/* cvtfptou64rtzsat: x as ulong, rounded toward zero. x: double; result: ulong.
+ * Clamped to the integer's range; NaN gives 0.
+ * Error: none, the value rounded as told.
+ * Rounded by a shifter, then converted exactly. */
+__UINT64_TYPE__ __ocl_zorv_v8_cvtfptou64rtzsat1(double x);
+ulong2 __ocl_zorv_v8_cvtfptou64rtzsat2(double2 x);
+ulong4 __ocl_zorv_v8_cvtfptou64rtzsat3(double4 x);
+ulong4 __ocl_zorv_v8_cvtfptou64rtzsat4(double4 x);
+ulong8 __ocl_zorv_v8_cvtfptou64rtzsat8(double8 x);
+ulong16 __ocl_zorv_v8_cvtfptou64rtzsat16(double16 x);
+
+/* cvtfptou64rtznosatf: x as ulong, rounded toward zero. x: float; result: ulong.
+ * The sign is dropped after rounding; out of range and NaN give the lowest signed integer's pattern.
+ * Error: none, the value rounded as told.
+ * Rounded by a shifter, then converted exactly. */
+__UINT64_TYPE__ __ocl_zorv_v8_cvtfptou64rtznosatf1(float x);
+ulong2 __ocl_zorv_v8_cvtfptou64rtznosatf2(float2 x);
+ulong4 __ocl_zorv_v8_cvtfptou64rtznosatf3(float4 x);
+ulong4 __ocl_zorv_v8_cvtfptou64rtznosatf4(float4 x);
+ulong8 __ocl_zorv_v8_cvtfptou64rtznosatf8(float8 x);
+ulong16 __ocl_zorv_v8_cvtfptou64rtznosatf16(float16 x);
+
+/* cvtfptou64rtznosat: x as ulong, rounded toward zero. x: double; result: ulong.
+ * The sign is dropped after rounding; out of range and NaN give the lowest signed integer's pattern.
+ * Error: none, the value rounded as told.
+ * Rounded by a shifter, then converted exactly. */
+__UINT64_TYPE__ __ocl_zorv_v8_cvtfptou64rtznosat1(double x);
+ulong2 __ocl_zorv_v8_cvtfptou64rtznosat2(double2 x);
+ulong4 __ocl_zorv_v8_cvtfptou64rtznosat3(double4 x);
+ulong4 __ocl_zorv_v8_cvtfptou64rtznosat4(double4 x);
+ulong8 __ocl_zorv_v8_cvtfptou64rtznosat8(double8 x);
+ulong16 __ocl_zorv_v8_cvtfptou64rtznosat16(double16 x);
+
+/* cvtu64tofprtzf: x, of ulong lanes, as floating, rounded toward zero. x: ulong; result: float.
+ * Every integer has a result; 0 gives +0.
+ * Error: none, the value rounded as told.
+ * Exact pieces, one rounded sum, a step on its bits where the rounding asks for one. */
+float __ocl_zorv_v8_cvtu64tofprtzf1(__UINT64_TYPE__ x);
+float2 __ocl_zorv_v8_cvtu64tofprtzf2(ulong2 x);
+float4 __ocl_zorv_v8_cvtu64tofprtzf3(ulong4 x);
+float4 __ocl_zorv_v8_cvtu64tofprtzf4(ulong4 x);
+float8 __ocl_zorv_v8_cvtu64tofprtzf8(ulong8 x);
+float16 __ocl_zorv_v8_cvtu64tofprtzf16(ulong16 x);
+
+/* cvtu64tofprtz: x, of ulong lanes, as floating, rounded toward zero. x: ulong; result: double.
+ * Every integer has a result; 0 gives +0.
+ * Error: none, the value rounded as told.
+ * Exact pieces, one rounded sum, a step on its bits where the rounding asks for one. */
+double __ocl_zorv_v8_cvtu64tofprtz1(__UINT64_TYPE__ x);
+double2 __ocl_zorv_v8_cvtu64tofprtz2(ulong2 x);
+double4 __ocl_zorv_v8_cvtu64tofprtz3(ulong4 x);
+double4 __ocl_zorv_v8_cvtu64tofprtz4(ulong4 x);
+double8 __ocl_zorv_v8_cvtu64tofprtz8(ulong8 x);
+double16 __ocl_zorv_v8_cvtu64tofprtz16(ulong16 x);
+
+/* cvtfptou64upsatf: x as ulong, rounded toward positive infinity. x: float; result: ulong.
+ * Clamped to the integer's range; NaN gives 0.
+ * Error: none, the value rounded as told.
+ * Rounded by a shifter, then converted exactly. */
+__UINT64_TYPE__ __ocl_zorv_v8_cvtfptou64upsatf1(float x);
+ulong2 __ocl_zorv_v8_cvtfptou64upsatf2(float2 x);
+ulong4 __ocl_zorv_v8_cvtfptou64upsatf3(float4 x);
+ulong4 __ocl_zorv_v8_cvtfptou64upsatf4(float4 x);
+ulong8 __ocl_zorv_v8_cvtfptou64upsatf8(float8 x);
+ulong16 __ocl_zorv_v8_cvtfptou64upsatf16(float16 x);
+
+/* cvtfptou64upsat: x as ulong, rounded toward positive infinity. x: double; result: ulong.
+ * Clamped to the integer's range; NaN gives 0.
+ * Error: none, the value rounded as told.
+ * Rounded by a shifter, then converted exactly. */
+__UINT64_TYPE__ __ocl_zorv_v8_cvtfptou64upsat1(double x);
+ulong2 __ocl_zorv_v8_cvtfptou64upsat2(double2 x);
+ulong4 __ocl_zorv_v8_cvtfptou64upsat3(double4 x);
+ulong4 __ocl_zorv_v8_cvtfptou64upsat4(double4 x);
+ulong8 __ocl_zorv_v8_cvtfptou64upsat8(double8 x);
+ulong16 __ocl_zorv_v8_cvtfptou64upsat16(double16 x);
+
+/* cvtfptou64upnosatf: x as ulong, rounded toward positive infinity. x: float; result: ulong.
+ * The sign is dropped after rounding; out of range and NaN give the lowest signed integer's pattern.
+ * Error: none, the value rounded as told.
+ * Rounded by a shifter, then converted exactly. */
+__UINT64_TYPE__ __ocl_zorv_v8_cvtfptou64upnosatf1(float x);
+ulong2 __ocl_zorv_v8_cvtfptou64upnosatf2(float2 x);
+ulong4 __ocl_zorv_v8_cvtfptou64upnosatf3(float4 x);
+ulong4 __ocl_zorv_v8_cvtfptou64upnosatf4(float4 x);
+ulong8 __ocl_zorv_v8_cvtfptou64upnosatf8(float8 x);
+ulong16 __ocl_zorv_v8_cvtfptou64upnosatf16(float16 x);
+
+/* cvtfptou64upnosat: x as ulong, rounded toward positive infinity. x: double; result: ulong.
+ * The sign is dropped after rounding; out of range and NaN give the lowest signed integer's pattern.
+ * Error: none, the value rounded as told.
+ * Rounded by a shifter, then converted exactly. */
+__UINT64_TYPE__ __ocl_zorv_v8_cvtfptou64upnosat1(double x);
+ulong2 __ocl_zorv_v8_cvtfptou64upnosat2(double2 x);
+ulong4 __ocl_zorv_v8_cvtfptou64upnosat3(double4 x);
+ulong4 __ocl_zorv_v8_cvtfptou64upnosat4(double4 x);
+ulong8 __ocl_zorv_v8_cvtfptou64upnosat8(double8 x);
+ulong16 __ocl_zorv_v8_cvtfptou64upnosat16(double16 x);
+
+/* cvtu64tofpupf: x, of ulong lanes, as floating, rounded toward positive infinity. x: ulong; result: float.
+ * Every integer has a result; 0 gives +0.
+ * Error: none, the value rounded as told.
+ * Exact pieces, one rounded sum, a step on its bits where the rounding asks for one. */
+float __ocl_zorv_v8_cvtu64tofpupf1(__UINT64_TYPE__ x);
+float2 __ocl_zorv_v8_cvtu64tofpupf2(ulong2 x);
+float4 __ocl_zorv_v8_cvtu64tofpupf3(ulong4 x);
+float4 __ocl_zorv_v8_cvtu64tofpupf4(ulong4 x);
+float8 __ocl_zorv_v8_cvtu64tofpupf8(ulong8 x);
+float16 __ocl_zorv_v8_cvtu64tofpupf16(ulong16 x);
+
+/* cvtu64tofpup: x, of ulong lanes, as floating, rounded toward positive infinity. x: ulong; result: double.
+ * Every integer has a result; 0 gives +0.
+ * Error: none, the value rounded as told.
+ * Exact pieces, one rounded sum, a step on its bits where the rounding asks for one. */
+double __ocl_zorv_v8_cvtu64tofpup1(__UINT64_TYPE__ x);
+double2 __ocl_zorv_v8_cvtu64tofpup2(ulong2 x);
+double4 __ocl_zorv_v8_cvtu64tofpup3(ulong4 x);
+double4 __ocl_zorv_v8_cvtu64tofpup4(ulong4 x);
+double8 __ocl_zorv_v8_cvtu64tofpup8(ulong8 x);
+double16 __ocl_zorv_v8_cvtu64tofpup16(ulong16 x);
+
+/* cvtfptou64downsatf: x as ulong, rounded toward negative infinity. x: float; result: ulong.
+ * Clamped to the integer's range; NaN gives 0.
+ * Error: none, the value rounded as told.
+ * Rounded by a shifter, then converted exactly. */
+__UINT64_TYPE__ __ocl_zorv_v8_cvtfptou64downsatf1(float x);
+ulong2 __ocl_zorv_v8_cvtfptou64downsatf2(float2 x);
+ulong4 __ocl_zorv_v8_cvtfptou64downsatf3(float4 x);
+ulong4 __ocl_zorv_v8_cvtfptou64downsatf4(float4 x);
+ulong8 __ocl_zorv_v8_cvtfptou64downsatf8(float8 x);
+ulong16 __ocl_zorv_v8_cvtfptou64downsatf16(float16 x);
+
+/* cvtfptou64downsat: x as ulong, rounded toward negative infinity. x: double; result: ulong.
+ * Clamped to the integer's range; NaN gives 0.
+ * Error: none, the value rounded as told.
+ * Rounded by a shifter, then converted exactly. */
+__UINT64_TYPE__ __ocl_zorv_v8_cvtfptou64downsat1(double x);
+ulong2 __ocl_zorv_v8_cvtfptou64downsat2(double2 x);
+ulong4 __ocl_zorv_v8_cvtfptou64downsat3(double4 x);
+ulong4 __ocl_zorv_v8_cvtfptou64downsat4(double4 x);
+ulong8 __ocl_zorv_v8_cvtfptou64downsat8(double8 x);
+ulong16 __ocl_zorv_v8_cvtfptou64downsat16(double16 x);
+
+/* cvtfptou64downnosatf: x as ulong, rounded toward negative infinity. x: float; result: ulong.
+ * The sign is dropped after rounding; out of range and NaN give the lowest signed integer's pattern.
+ * Error: none, the value rounded as told.
+ * Rounded by a shifter, then converted exactly. */
+__UINT64_TYPE__ __ocl_zorv_v8_cvtfptou64downnosatf1(float x);
+ulong2 __ocl_zorv_v8_cvtfptou64downnosatf2(float2 x);
+ulong4 __ocl_zorv_v8_cvtfptou64downnosatf3(float4 x);
+ulong4 __ocl_zorv_v8_cvtfptou64downnosatf4(float4 x);
+ulong8 __ocl_zorv_v8_cvtfptou64downnosatf8(float8 x);
+ulong16 __ocl_zorv_v8_cvtfptou64downnosatf16(float16 x);
+
+/* cvtfptou64downnosat: x as ulong, rounded toward negative infinity. x: double; result: ulong.
+ * The sign is dropped after rounding; out of range and NaN give the lowest signed integer's pattern.
+ * Error: none, the value rounded as told.
+ * Rounded by a shifter, then converted exactly. */
+__UINT64_TYPE__ __ocl_zorv_v8_cvtfptou64downnosat1(double x);
+ulong2 __ocl_zorv_v8_cvtfptou64downnosat2(double2 x);
+ulong4 __ocl_zorv_v8_cvtfptou64downnosat3(double4 x);
+ulong4 __ocl_zorv_v8_cvtfptou64downnosat4(double4 x);
+ulong8 __ocl_zorv_v8_cvtfptou64downnosat8(double8 x);
+ulong16 __ocl_zorv_v8_cvtfptou64downnosat16(double16 x);
+
+/* cvtu64tofpdownf: x, of ulong lanes, as floating, rounded toward negative infinity. x: ulong; result: float.
+ * Every integer has a result; 0 gives +0.
+ * Error: none, the value rounded as told.
+ * Exact pieces, one rounded sum, a step on its bits where the rounding asks for one. */
+float __ocl_zorv_v8_cvtu64tofpdownf1(__UINT64_TYPE__ x);
+float2 __ocl_zorv_v8_cvtu64tofpdownf2(ulong2 x);
+float4 __ocl_zorv_v8_cvtu64tofpdownf3(ulong4 x);
+float4 __ocl_zorv_v8_cvtu64tofpdownf4(ulong4 x);
+float8 __ocl_zorv_v8_cvtu64tofpdownf8(ulong8 x);
+float16 __ocl_zorv_v8_cvtu64tofpdownf16(ulong16 x);
+
+/* cvtu64tofpdown: x, of ulong lanes, as floating, rounded toward negative infinity. x: ulong; result: double.
+ * Every integer has a result; 0 gives +0.
+ * Error: none, the value rounded as told.
+ * Exact pieces, one rounded sum, a step on its bits where the rounding asks for one. */
+double __ocl_zorv_v8_cvtu64tofpdown1(__UINT64_TYPE__ x);
+double2 __ocl_zorv_v8_cvtu64tofpdown2(ulong2 x);
+double4 __ocl_zorv_v8_cvtu64tofpdown3(ulong4 x);
+double4 __ocl_zorv_v8_cvtu64tofpdown4(ulong4 x);
+double8 __ocl_zorv_v8_cvtu64tofpdown8(ulong8 x);
+double16 __ocl_zorv_v8_cvtu64tofpdown16(ulong16 x);
+
 #ifdef __cplusplus
 #pragma clang diagnostic pop
 }

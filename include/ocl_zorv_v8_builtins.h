@@ -1134,6 +1134,1031 @@ OVERLOAD float16 native_sincos(float16 x, global float16 *pointer) {
     return first;
 }
 
+/* cvtfptoi32rtnsatf */
+OVERLOAD int convert_int_sat_rte(float x) { return __ocl_zorv_v8_cvtfptoi32rtnsatf1(x); }
+OVERLOAD int2 convert_int2_sat_rte(float2 x) { return __ocl_zorv_v8_cvtfptoi32rtnsatf2(x); }
+OVERLOAD int3 convert_int3_sat_rte(float3 x) { return (__ocl_zorv_v8_cvtfptoi32rtnsatf3(x.xyzz)).xyz; }
+OVERLOAD int4 convert_int4_sat_rte(float4 x) { return __ocl_zorv_v8_cvtfptoi32rtnsatf4(x); }
+OVERLOAD int8 convert_int8_sat_rte(float8 x) { return __ocl_zorv_v8_cvtfptoi32rtnsatf8(x); }
+OVERLOAD int16 convert_int16_sat_rte(float16 x) { return __ocl_zorv_v8_cvtfptoi32rtnsatf16(x); }
+
+/* cvtfptoi32rtnsat */
+OVERLOAD int convert_int_sat_rte(double x) { return __ocl_zorv_v8_cvtfptoi32rtnsat1(x); }
+OVERLOAD int2 convert_int2_sat_rte(double2 x) { return __ocl_zorv_v8_cvtfptoi32rtnsat2(x); }
+OVERLOAD int3 convert_int3_sat_rte(double3 x) { return (__ocl_zorv_v8_cvtfptoi32rtnsat3(x.xyzz)).xyz; }
+OVERLOAD int4 convert_int4_sat_rte(double4 x) { return __ocl_zorv_v8_cvtfptoi32rtnsat4(x); }
+OVERLOAD int8 convert_int8_sat_rte(double8 x) { return __ocl_zorv_v8_cvtfptoi32rtnsat8(x); }
+OVERLOAD int16 convert_int16_sat_rte(double16 x) { return __ocl_zorv_v8_cvtfptoi32rtnsat16(x); }
+
+/* cvtfptoi32rtnnosatf */
+OVERLOAD int convert_int_rte(float x) { return __ocl_zorv_v8_cvtfptoi32rtnnosatf1(x); }
+OVERLOAD int2 convert_int2_rte(float2 x) { return __ocl_zorv_v8_cvtfptoi32rtnnosatf2(x); }
+OVERLOAD int3 convert_int3_rte(float3 x) { return (__ocl_zorv_v8_cvtfptoi32rtnnosatf3(x.xyzz)).xyz; }
+OVERLOAD int4 convert_int4_rte(float4 x) { return __ocl_zorv_v8_cvtfptoi32rtnnosatf4(x); }
+OVERLOAD int8 convert_int8_rte(float8 x) { return __ocl_zorv_v8_cvtfptoi32rtnnosatf8(x); }
+OVERLOAD int16 convert_int16_rte(float16 x) { return __ocl_zorv_v8_cvtfptoi32rtnnosatf16(x); }
+
+/* cvtfptoi32rtnnosat */
+OVERLOAD int convert_int_rte(double x) { return __ocl_zorv_v8_cvtfptoi32rtnnosat1(x); }
+OVERLOAD int2 convert_int2_rte(double2 x) { return __ocl_zorv_v8_cvtfptoi32rtnnosat2(x); }
+OVERLOAD int3 convert_int3_rte(double3 x) { return (__ocl_zorv_v8_cvtfptoi32rtnnosat3(x.xyzz)).xyz; }
+OVERLOAD int4 convert_int4_rte(double4 x) { return __ocl_zorv_v8_cvtfptoi32rtnnosat4(x); }
+OVERLOAD int8 convert_int8_rte(double8 x) { return __ocl_zorv_v8_cvtfptoi32rtnnosat8(x); }
+OVERLOAD int16 convert_int16_rte(double16 x) { return __ocl_zorv_v8_cvtfptoi32rtnnosat16(x); }
+
+/* cvti32tofprtnf */
+OVERLOAD float convert_float_rte(int x) { return __ocl_zorv_v8_cvti32tofprtnf1(x); }
+OVERLOAD float convert_float(int x) { return __ocl_zorv_v8_cvti32tofprtnf1(x); }
+OVERLOAD float2 convert_float2_rte(int2 x) { return __ocl_zorv_v8_cvti32tofprtnf2(x); }
+OVERLOAD float2 convert_float2(int2 x) { return __ocl_zorv_v8_cvti32tofprtnf2(x); }
+OVERLOAD float3 convert_float3_rte(int3 x) { return (__ocl_zorv_v8_cvti32tofprtnf3(x.xyzz)).xyz; }
+OVERLOAD float3 convert_float3(int3 x) { return (__ocl_zorv_v8_cvti32tofprtnf3(x.xyzz)).xyz; }
+OVERLOAD float4 convert_float4_rte(int4 x) { return __ocl_zorv_v8_cvti32tofprtnf4(x); }
+OVERLOAD float4 convert_float4(int4 x) { return __ocl_zorv_v8_cvti32tofprtnf4(x); }
+OVERLOAD float8 convert_float8_rte(int8 x) { return __ocl_zorv_v8_cvti32tofprtnf8(x); }
+OVERLOAD float8 convert_float8(int8 x) { return __ocl_zorv_v8_cvti32tofprtnf8(x); }
+OVERLOAD float16 convert_float16_rte(int16 x) { return __ocl_zorv_v8_cvti32tofprtnf16(x); }
+OVERLOAD float16 convert_float16(int16 x) { return __ocl_zorv_v8_cvti32tofprtnf16(x); }
+
+/* cvti32tofprtn */
+OVERLOAD double convert_double_rte(int x) { return __ocl_zorv_v8_cvti32tofprtn1(x); }
+OVERLOAD double convert_double(int x) { return __ocl_zorv_v8_cvti32tofprtn1(x); }
+OVERLOAD double2 convert_double2_rte(int2 x) { return __ocl_zorv_v8_cvti32tofprtn2(x); }
+OVERLOAD double2 convert_double2(int2 x) { return __ocl_zorv_v8_cvti32tofprtn2(x); }
+OVERLOAD double3 convert_double3_rte(int3 x) { return (__ocl_zorv_v8_cvti32tofprtn3(x.xyzz)).xyz; }
+OVERLOAD double3 convert_double3(int3 x) { return (__ocl_zorv_v8_cvti32tofprtn3(x.xyzz)).xyz; }
+OVERLOAD double4 convert_double4_rte(int4 x) { return __ocl_zorv_v8_cvti32tofprtn4(x); }
+OVERLOAD double4 convert_double4(int4 x) { return __ocl_zorv_v8_cvti32tofprtn4(x); }
+OVERLOAD double8 convert_double8_rte(int8 x) { return __ocl_zorv_v8_cvti32tofprtn8(x); }
+OVERLOAD double8 convert_double8(int8 x) { return __ocl_zorv_v8_cvti32tofprtn8(x); }
+OVERLOAD double16 convert_double16_rte(int16 x) { return __ocl_zorv_v8_cvti32tofprtn16(x); }
+OVERLOAD double16 convert_double16(int16 x) { return __ocl_zorv_v8_cvti32tofprtn16(x); }
+
+/* cvtfptoi32rtzsatf */
+OVERLOAD int convert_int_sat_rtz(float x) { return __ocl_zorv_v8_cvtfptoi32rtzsatf1(x); }
+OVERLOAD int convert_int_sat(float x) { return __ocl_zorv_v8_cvtfptoi32rtzsatf1(x); }
+OVERLOAD int2 convert_int2_sat_rtz(float2 x) { return __ocl_zorv_v8_cvtfptoi32rtzsatf2(x); }
+OVERLOAD int2 convert_int2_sat(float2 x) { return __ocl_zorv_v8_cvtfptoi32rtzsatf2(x); }
+OVERLOAD int3 convert_int3_sat_rtz(float3 x) { return (__ocl_zorv_v8_cvtfptoi32rtzsatf3(x.xyzz)).xyz; }
+OVERLOAD int3 convert_int3_sat(float3 x) { return (__ocl_zorv_v8_cvtfptoi32rtzsatf3(x.xyzz)).xyz; }
+OVERLOAD int4 convert_int4_sat_rtz(float4 x) { return __ocl_zorv_v8_cvtfptoi32rtzsatf4(x); }
+OVERLOAD int4 convert_int4_sat(float4 x) { return __ocl_zorv_v8_cvtfptoi32rtzsatf4(x); }
+OVERLOAD int8 convert_int8_sat_rtz(float8 x) { return __ocl_zorv_v8_cvtfptoi32rtzsatf8(x); }
+OVERLOAD int8 convert_int8_sat(float8 x) { return __ocl_zorv_v8_cvtfptoi32rtzsatf8(x); }
+OVERLOAD int16 convert_int16_sat_rtz(float16 x) { return __ocl_zorv_v8_cvtfptoi32rtzsatf16(x); }
+OVERLOAD int16 convert_int16_sat(float16 x) { return __ocl_zorv_v8_cvtfptoi32rtzsatf16(x); }
+
+/* cvtfptoi32rtzsat */
+OVERLOAD int convert_int_sat_rtz(double x) { return __ocl_zorv_v8_cvtfptoi32rtzsat1(x); }
+OVERLOAD int convert_int_sat(double x) { return __ocl_zorv_v8_cvtfptoi32rtzsat1(x); }
+OVERLOAD int2 convert_int2_sat_rtz(double2 x) { return __ocl_zorv_v8_cvtfptoi32rtzsat2(x); }
+OVERLOAD int2 convert_int2_sat(double2 x) { return __ocl_zorv_v8_cvtfptoi32rtzsat2(x); }
+OVERLOAD int3 convert_int3_sat_rtz(double3 x) { return (__ocl_zorv_v8_cvtfptoi32rtzsat3(x.xyzz)).xyz; }
+OVERLOAD int3 convert_int3_sat(double3 x) { return (__ocl_zorv_v8_cvtfptoi32rtzsat3(x.xyzz)).xyz; }
+OVERLOAD int4 convert_int4_sat_rtz(double4 x) { return __ocl_zorv_v8_cvtfptoi32rtzsat4(x); }
+OVERLOAD int4 convert_int4_sat(double4 x) { return __ocl_zorv_v8_cvtfptoi32rtzsat4(x); }
+OVERLOAD int8 convert_int8_sat_rtz(double8 x) { return __ocl_zorv_v8_cvtfptoi32rtzsat8(x); }
+OVERLOAD int8 convert_int8_sat(double8 x) { return __ocl_zorv_v8_cvtfptoi32rtzsat8(x); }
+OVERLOAD int16 convert_int16_sat_rtz(double16 x) { return __ocl_zorv_v8_cvtfptoi32rtzsat16(x); }
+OVERLOAD int16 convert_int16_sat(double16 x) { return __ocl_zorv_v8_cvtfptoi32rtzsat16(x); }
+
+/* cvtfptoi32rtznosatf */
+OVERLOAD int convert_int_rtz(float x) { return __ocl_zorv_v8_cvtfptoi32rtznosatf1(x); }
+OVERLOAD int convert_int(float x) { return __ocl_zorv_v8_cvtfptoi32rtznosatf1(x); }
+OVERLOAD int2 convert_int2_rtz(float2 x) { return __ocl_zorv_v8_cvtfptoi32rtznosatf2(x); }
+OVERLOAD int2 convert_int2(float2 x) { return __ocl_zorv_v8_cvtfptoi32rtznosatf2(x); }
+OVERLOAD int3 convert_int3_rtz(float3 x) { return (__ocl_zorv_v8_cvtfptoi32rtznosatf3(x.xyzz)).xyz; }
+OVERLOAD int3 convert_int3(float3 x) { return (__ocl_zorv_v8_cvtfptoi32rtznosatf3(x.xyzz)).xyz; }
+OVERLOAD int4 convert_int4_rtz(float4 x) { return __ocl_zorv_v8_cvtfptoi32rtznosatf4(x); }
+OVERLOAD int4 convert_int4(float4 x) { return __ocl_zorv_v8_cvtfptoi32rtznosatf4(x); }
+OVERLOAD int8 convert_int8_rtz(float8 x) { return __ocl_zorv_v8_cvtfptoi32rtznosatf8(x); }
+OVERLOAD int8 convert_int8(float8 x) { return __ocl_zorv_v8_cvtfptoi32rtznosatf8(x); }
+OVERLOAD int16 convert_int16_rtz(float16 x) { return __ocl_zorv_v8_cvtfptoi32rtznosatf16(x); }
+OVERLOAD int16 convert_int16(float16 x) { return __ocl_zorv_v8_cvtfptoi32rtznosatf16(x); }
+
+/* cvtfptoi32rtznosat */
+OVERLOAD int convert_int_rtz(double x) { return __ocl_zorv_v8_cvtfptoi32rtznosat1(x); }
+OVERLOAD int convert_int(double x) { return __ocl_zorv_v8_cvtfptoi32rtznosat1(x); }
+OVERLOAD int2 convert_int2_rtz(double2 x) { return __ocl_zorv_v8_cvtfptoi32rtznosat2(x); }
+OVERLOAD int2 convert_int2(double2 x) { return __ocl_zorv_v8_cvtfptoi32rtznosat2(x); }
+OVERLOAD int3 convert_int3_rtz(double3 x) { return (__ocl_zorv_v8_cvtfptoi32rtznosat3(x.xyzz)).xyz; }
+OVERLOAD int3 convert_int3(double3 x) { return (__ocl_zorv_v8_cvtfptoi32rtznosat3(x.xyzz)).xyz; }
+OVERLOAD int4 convert_int4_rtz(double4 x) { return __ocl_zorv_v8_cvtfptoi32rtznosat4(x); }
+OVERLOAD int4 convert_int4(double4 x) { return __ocl_zorv_v8_cvtfptoi32rtznosat4(x); }
+OVERLOAD int8 convert_int8_rtz(double8 x) { return __ocl_zorv_v8_cvtfptoi32rtznosat8(x); }
+OVERLOAD int8 convert_int8(double8 x) { return __ocl_zorv_v8_cvtfptoi32rtznosat8(x); }
+OVERLOAD int16 convert_int16_rtz(double16 x) { return __ocl_zorv_v8_cvtfptoi32rtznosat16(x); }
+OVERLOAD int16 convert_int16(double16 x) { return __ocl_zorv_v8_cvtfptoi32rtznosat16(x); }
+
+/* cvti32tofprtzf */
+OVERLOAD float convert_float_rtz(int x) { return __ocl_zorv_v8_cvti32tofprtzf1(x); }
+OVERLOAD float2 convert_float2_rtz(int2 x) { return __ocl_zorv_v8_cvti32tofprtzf2(x); }
+OVERLOAD float3 convert_float3_rtz(int3 x) { return (__ocl_zorv_v8_cvti32tofprtzf3(x.xyzz)).xyz; }
+OVERLOAD float4 convert_float4_rtz(int4 x) { return __ocl_zorv_v8_cvti32tofprtzf4(x); }
+OVERLOAD float8 convert_float8_rtz(int8 x) { return __ocl_zorv_v8_cvti32tofprtzf8(x); }
+OVERLOAD float16 convert_float16_rtz(int16 x) { return __ocl_zorv_v8_cvti32tofprtzf16(x); }
+
+/* cvti32tofprtz */
+OVERLOAD double convert_double_rtz(int x) { return __ocl_zorv_v8_cvti32tofprtz1(x); }
+OVERLOAD double2 convert_double2_rtz(int2 x) { return __ocl_zorv_v8_cvti32tofprtz2(x); }
+OVERLOAD double3 convert_double3_rtz(int3 x) { return (__ocl_zorv_v8_cvti32tofprtz3(x.xyzz)).xyz; }
+OVERLOAD double4 convert_double4_rtz(int4 x) { return __ocl_zorv_v8_cvti32tofprtz4(x); }
+OVERLOAD double8 convert_double8_rtz(int8 x) { return __ocl_zorv_v8_cvti32tofprtz8(x); }
+OVERLOAD double16 convert_double16_rtz(int16 x) { return __ocl_zorv_v8_cvti32tofprtz16(x); }
+
+/* cvtfptoi32upsatf */
+OVERLOAD int convert_int_sat_rtp(float x) { return __ocl_zorv_v8_cvtfptoi32upsatf1(x); }
+OVERLOAD int2 convert_int2_sat_rtp(float2 x) { return __ocl_zorv_v8_cvtfptoi32upsatf2(x); }
+OVERLOAD int3 convert_int3_sat_rtp(float3 x) { return (__ocl_zorv_v8_cvtfptoi32upsatf3(x.xyzz)).xyz; }
+OVERLOAD int4 convert_int4_sat_rtp(float4 x) { return __ocl_zorv_v8_cvtfptoi32upsatf4(x); }
+OVERLOAD int8 convert_int8_sat_rtp(float8 x) { return __ocl_zorv_v8_cvtfptoi32upsatf8(x); }
+OVERLOAD int16 convert_int16_sat_rtp(float16 x) { return __ocl_zorv_v8_cvtfptoi32upsatf16(x); }
+
+/* cvtfptoi32upsat */
+OVERLOAD int convert_int_sat_rtp(double x) { return __ocl_zorv_v8_cvtfptoi32upsat1(x); }
+OVERLOAD int2 convert_int2_sat_rtp(double2 x) { return __ocl_zorv_v8_cvtfptoi32upsat2(x); }
+OVERLOAD int3 convert_int3_sat_rtp(double3 x) { return (__ocl_zorv_v8_cvtfptoi32upsat3(x.xyzz)).xyz; }
+OVERLOAD int4 convert_int4_sat_rtp(double4 x) { return __ocl_zorv_v8_cvtfptoi32upsat4(x); }
+OVERLOAD int8 convert_int8_sat_rtp(double8 x) { return __ocl_zorv_v8_cvtfptoi32upsat8(x); }
+OVERLOAD int16 convert_int16_sat_rtp(double16 x) { return __ocl_zorv_v8_cvtfptoi32upsat16(x); }
+
+/* cvtfptoi32upnosatf */
+OVERLOAD int convert_int_rtp(float x) { return __ocl_zorv_v8_cvtfptoi32upnosatf1(x); }
+OVERLOAD int2 convert_int2_rtp(float2 x) { return __ocl_zorv_v8_cvtfptoi32upnosatf2(x); }
+OVERLOAD int3 convert_int3_rtp(float3 x) { return (__ocl_zorv_v8_cvtfptoi32upnosatf3(x.xyzz)).xyz; }
+OVERLOAD int4 convert_int4_rtp(float4 x) { return __ocl_zorv_v8_cvtfptoi32upnosatf4(x); }
+OVERLOAD int8 convert_int8_rtp(float8 x) { return __ocl_zorv_v8_cvtfptoi32upnosatf8(x); }
+OVERLOAD int16 convert_int16_rtp(float16 x) { return __ocl_zorv_v8_cvtfptoi32upnosatf16(x); }
+
+/* cvtfptoi32upnosat */
+OVERLOAD int convert_int_rtp(double x) { return __ocl_zorv_v8_cvtfptoi32upnosat1(x); }
+OVERLOAD int2 convert_int2_rtp(double2 x) { return __ocl_zorv_v8_cvtfptoi32upnosat2(x); }
+OVERLOAD int3 convert_int3_rtp(double3 x) { return (__ocl_zorv_v8_cvtfptoi32upnosat3(x.xyzz)).xyz; }
+OVERLOAD int4 convert_int4_rtp(double4 x) { return __ocl_zorv_v8_cvtfptoi32upnosat4(x); }
+OVERLOAD int8 convert_int8_rtp(double8 x) { return __ocl_zorv_v8_cvtfptoi32upnosat8(x); }
+OVERLOAD int16 convert_int16_rtp(double16 x) { return __ocl_zorv_v8_cvtfptoi32upnosat16(x); }
+
+/* cvti32tofpupf */
+OVERLOAD float convert_float_rtp(int x) { return __ocl_zorv_v8_cvti32tofpupf1(x); }
+OVERLOAD float2 convert_float2_rtp(int2 x) { return __ocl_zorv_v8_cvti32tofpupf2(x); }
+OVERLOAD float3 convert_float3_rtp(int3 x) { return (__ocl_zorv_v8_cvti32tofpupf3(x.xyzz)).xyz; }
+OVERLOAD float4 convert_float4_rtp(int4 x) { return __ocl_zorv_v8_cvti32tofpupf4(x); }
+OVERLOAD float8 convert_float8_rtp(int8 x) { return __ocl_zorv_v8_cvti32tofpupf8(x); }
+OVERLOAD float16 convert_float16_rtp(int16 x) { return __ocl_zorv_v8_cvti32tofpupf16(x); }
+
+/* cvti32tofpup */
+OVERLOAD double convert_double_rtp(int x) { return __ocl_zorv_v8_cvti32tofpup1(x); }
+OVERLOAD double2 convert_double2_rtp(int2 x) { return __ocl_zorv_v8_cvti32tofpup2(x); }
+OVERLOAD double3 convert_double3_rtp(int3 x) { return (__ocl_zorv_v8_cvti32tofpup3(x.xyzz)).xyz; }
+OVERLOAD double4 convert_double4_rtp(int4 x) { return __ocl_zorv_v8_cvti32tofpup4(x); }
+OVERLOAD double8 convert_double8_rtp(int8 x) { return __ocl_zorv_v8_cvti32tofpup8(x); }
+OVERLOAD double16 convert_double16_rtp(int16 x) { return __ocl_zorv_v8_cvti32tofpup16(x); }
+
+/* cvtfptoi32downsatf */
+OVERLOAD int convert_int_sat_rtn(float x) { return __ocl_zorv_v8_cvtfptoi32downsatf1(x); }
+OVERLOAD int2 convert_int2_sat_rtn(float2 x) { return __ocl_zorv_v8_cvtfptoi32downsatf2(x); }
+OVERLOAD int3 convert_int3_sat_rtn(float3 x) { return (__ocl_zorv_v8_cvtfptoi32downsatf3(x.xyzz)).xyz; }
+OVERLOAD int4 convert_int4_sat_rtn(float4 x) { return __ocl_zorv_v8_cvtfptoi32downsatf4(x); }
+OVERLOAD int8 convert_int8_sat_rtn(float8 x) { return __ocl_zorv_v8_cvtfptoi32downsatf8(x); }
+OVERLOAD int16 convert_int16_sat_rtn(float16 x) { return __ocl_zorv_v8_cvtfptoi32downsatf16(x); }
+
+/* cvtfptoi32downsat */
+OVERLOAD int convert_int_sat_rtn(double x) { return __ocl_zorv_v8_cvtfptoi32downsat1(x); }
+OVERLOAD int2 convert_int2_sat_rtn(double2 x) { return __ocl_zorv_v8_cvtfptoi32downsat2(x); }
+OVERLOAD int3 convert_int3_sat_rtn(double3 x) { return (__ocl_zorv_v8_cvtfptoi32downsat3(x.xyzz)).xyz; }
+OVERLOAD int4 convert_int4_sat_rtn(double4 x) { return __ocl_zorv_v8_cvtfptoi32downsat4(x); }
+OVERLOAD int8 convert_int8_sat_rtn(double8 x) { return __ocl_zorv_v8_cvtfptoi32downsat8(x); }
+OVERLOAD int16 convert_int16_sat_rtn(double16 x) { return __ocl_zorv_v8_cvtfptoi32downsat16(x); }
+
+/* cvtfptoi32downnosatf */
+OVERLOAD int convert_int_rtn(float x) { return __ocl_zorv_v8_cvtfptoi32downnosatf1(x); }
+OVERLOAD int2 convert_int2_rtn(float2 x) { return __ocl_zorv_v8_cvtfptoi32downnosatf2(x); }
+OVERLOAD int3 convert_int3_rtn(float3 x) { return (__ocl_zorv_v8_cvtfptoi32downnosatf3(x.xyzz)).xyz; }
+OVERLOAD int4 convert_int4_rtn(float4 x) { return __ocl_zorv_v8_cvtfptoi32downnosatf4(x); }
+OVERLOAD int8 convert_int8_rtn(float8 x) { return __ocl_zorv_v8_cvtfptoi32downnosatf8(x); }
+OVERLOAD int16 convert_int16_rtn(float16 x) { return __ocl_zorv_v8_cvtfptoi32downnosatf16(x); }
+
+/* cvtfptoi32downnosat */
+OVERLOAD int convert_int_rtn(double x) { return __ocl_zorv_v8_cvtfptoi32downnosat1(x); }
+OVERLOAD int2 convert_int2_rtn(double2 x) { return __ocl_zorv_v8_cvtfptoi32downnosat2(x); }
+OVERLOAD int3 convert_int3_rtn(double3 x) { return (__ocl_zorv_v8_cvtfptoi32downnosat3(x.xyzz)).xyz; }
+OVERLOAD int4 convert_int4_rtn(double4 x) { return __ocl_zorv_v8_cvtfptoi32downnosat4(x); }
+OVERLOAD int8 convert_int8_rtn(double8 x) { return __ocl_zorv_v8_cvtfptoi32downnosat8(x); }
+OVERLOAD int16 convert_int16_rtn(double16 x) { return __ocl_zorv_v8_cvtfptoi32downnosat16(x); }
+
+/* cvti32tofpdownf */
+OVERLOAD float convert_float_rtn(int x) { return __ocl_zorv_v8_cvti32tofpdownf1(x); }
+OVERLOAD float2 convert_float2_rtn(int2 x) { return __ocl_zorv_v8_cvti32tofpdownf2(x); }
+OVERLOAD float3 convert_float3_rtn(int3 x) { return (__ocl_zorv_v8_cvti32tofpdownf3(x.xyzz)).xyz; }
+OVERLOAD float4 convert_float4_rtn(int4 x) { return __ocl_zorv_v8_cvti32tofpdownf4(x); }
+OVERLOAD float8 convert_float8_rtn(int8 x) { return __ocl_zorv_v8_cvti32tofpdownf8(x); }
+OVERLOAD float16 convert_float16_rtn(int16 x) { return __ocl_zorv_v8_cvti32tofpdownf16(x); }
+
+/* cvti32tofpdown */
+OVERLOAD double convert_double_rtn(int x) { return __ocl_zorv_v8_cvti32tofpdown1(x); }
+OVERLOAD double2 convert_double2_rtn(int2 x) { return __ocl_zorv_v8_cvti32tofpdown2(x); }
+OVERLOAD double3 convert_double3_rtn(int3 x) { return (__ocl_zorv_v8_cvti32tofpdown3(x.xyzz)).xyz; }
+OVERLOAD double4 convert_double4_rtn(int4 x) { return __ocl_zorv_v8_cvti32tofpdown4(x); }
+OVERLOAD double8 convert_double8_rtn(int8 x) { return __ocl_zorv_v8_cvti32tofpdown8(x); }
+OVERLOAD double16 convert_double16_rtn(int16 x) { return __ocl_zorv_v8_cvti32tofpdown16(x); }
+
+/* cvtfptou32rtnsatf */
+OVERLOAD uint convert_uint_sat_rte(float x) { return __ocl_zorv_v8_cvtfptou32rtnsatf1(x); }
+OVERLOAD uint2 convert_uint2_sat_rte(float2 x) { return __ocl_zorv_v8_cvtfptou32rtnsatf2(x); }
+OVERLOAD uint3 convert_uint3_sat_rte(float3 x) { return (__ocl_zorv_v8_cvtfptou32rtnsatf3(x.xyzz)).xyz; }
+OVERLOAD uint4 convert_uint4_sat_rte(float4 x) { return __ocl_zorv_v8_cvtfptou32rtnsatf4(x); }
+OVERLOAD uint8 convert_uint8_sat_rte(float8 x) { return __ocl_zorv_v8_cvtfptou32rtnsatf8(x); }
+OVERLOAD uint16 convert_uint16_sat_rte(float16 x) { return __ocl_zorv_v8_cvtfptou32rtnsatf16(x); }
+
+/* cvtfptou32rtnsat */
+OVERLOAD uint convert_uint_sat_rte(double x) { return __ocl_zorv_v8_cvtfptou32rtnsat1(x); }
+OVERLOAD uint2 convert_uint2_sat_rte(double2 x) { return __ocl_zorv_v8_cvtfptou32rtnsat2(x); }
+OVERLOAD uint3 convert_uint3_sat_rte(double3 x) { return (__ocl_zorv_v8_cvtfptou32rtnsat3(x.xyzz)).xyz; }
+OVERLOAD uint4 convert_uint4_sat_rte(double4 x) { return __ocl_zorv_v8_cvtfptou32rtnsat4(x); }
+OVERLOAD uint8 convert_uint8_sat_rte(double8 x) { return __ocl_zorv_v8_cvtfptou32rtnsat8(x); }
+OVERLOAD uint16 convert_uint16_sat_rte(double16 x) { return __ocl_zorv_v8_cvtfptou32rtnsat16(x); }
+
+/* cvtfptou32rtnnosatf */
+OVERLOAD uint convert_uint_rte(float x) { return __ocl_zorv_v8_cvtfptou32rtnnosatf1(x); }
+OVERLOAD uint2 convert_uint2_rte(float2 x) { return __ocl_zorv_v8_cvtfptou32rtnnosatf2(x); }
+OVERLOAD uint3 convert_uint3_rte(float3 x) { return (__ocl_zorv_v8_cvtfptou32rtnnosatf3(x.xyzz)).xyz; }
+OVERLOAD uint4 convert_uint4_rte(float4 x) { return __ocl_zorv_v8_cvtfptou32rtnnosatf4(x); }
+OVERLOAD uint8 convert_uint8_rte(float8 x) { return __ocl_zorv_v8_cvtfptou32rtnnosatf8(x); }
+OVERLOAD uint16 convert_uint16_rte(float16 x) { return __ocl_zorv_v8_cvtfptou32rtnnosatf16(x); }
+
+/* cvtfptou32rtnnosat */
+OVERLOAD uint convert_uint_rte(double x) { return __ocl_zorv_v8_cvtfptou32rtnnosat1(x); }
+OVERLOAD uint2 convert_uint2_rte(double2 x) { return __ocl_zorv_v8_cvtfptou32rtnnosat2(x); }
+OVERLOAD uint3 convert_uint3_rte(double3 x) { return (__ocl_zorv_v8_cvtfptou32rtnnosat3(x.xyzz)).xyz; }
+OVERLOAD uint4 convert_uint4_rte(double4 x) { return __ocl_zorv_v8_cvtfptou32rtnnosat4(x); }
+OVERLOAD uint8 convert_uint8_rte(double8 x) { return __ocl_zorv_v8_cvtfptou32rtnnosat8(x); }
+OVERLOAD uint16 convert_uint16_rte(double16 x) { return __ocl_zorv_v8_cvtfptou32rtnnosat16(x); }
+
+/* cvtu32tofprtnf */
+OVERLOAD float convert_float_rte(uint x) { return __ocl_zorv_v8_cvtu32tofprtnf1(x); }
+OVERLOAD float convert_float(uint x) { return __ocl_zorv_v8_cvtu32tofprtnf1(x); }
+OVERLOAD float2 convert_float2_rte(uint2 x) { return __ocl_zorv_v8_cvtu32tofprtnf2(x); }
+OVERLOAD float2 convert_float2(uint2 x) { return __ocl_zorv_v8_cvtu32tofprtnf2(x); }
+OVERLOAD float3 convert_float3_rte(uint3 x) { return (__ocl_zorv_v8_cvtu32tofprtnf3(x.xyzz)).xyz; }
+OVERLOAD float3 convert_float3(uint3 x) { return (__ocl_zorv_v8_cvtu32tofprtnf3(x.xyzz)).xyz; }
+OVERLOAD float4 convert_float4_rte(uint4 x) { return __ocl_zorv_v8_cvtu32tofprtnf4(x); }
+OVERLOAD float4 convert_float4(uint4 x) { return __ocl_zorv_v8_cvtu32tofprtnf4(x); }
+OVERLOAD float8 convert_float8_rte(uint8 x) { return __ocl_zorv_v8_cvtu32tofprtnf8(x); }
+OVERLOAD float8 convert_float8(uint8 x) { return __ocl_zorv_v8_cvtu32tofprtnf8(x); }
+OVERLOAD float16 convert_float16_rte(uint16 x) { return __ocl_zorv_v8_cvtu32tofprtnf16(x); }
+OVERLOAD float16 convert_float16(uint16 x) { return __ocl_zorv_v8_cvtu32tofprtnf16(x); }
+
+/* cvtu32tofprtn */
+OVERLOAD double convert_double_rte(uint x) { return __ocl_zorv_v8_cvtu32tofprtn1(x); }
+OVERLOAD double convert_double(uint x) { return __ocl_zorv_v8_cvtu32tofprtn1(x); }
+OVERLOAD double2 convert_double2_rte(uint2 x) { return __ocl_zorv_v8_cvtu32tofprtn2(x); }
+OVERLOAD double2 convert_double2(uint2 x) { return __ocl_zorv_v8_cvtu32tofprtn2(x); }
+OVERLOAD double3 convert_double3_rte(uint3 x) { return (__ocl_zorv_v8_cvtu32tofprtn3(x.xyzz)).xyz; }
+OVERLOAD double3 convert_double3(uint3 x) { return (__ocl_zorv_v8_cvtu32tofprtn3(x.xyzz)).xyz; }
+OVERLOAD double4 convert_double4_rte(uint4 x) { return __ocl_zorv_v8_cvtu32tofprtn4(x); }
+OVERLOAD double4 convert_double4(uint4 x) { return __ocl_zorv_v8_cvtu32tofprtn4(x); }
+OVERLOAD double8 convert_double8_rte(uint8 x) { return __ocl_zorv_v8_cvtu32tofprtn8(x); }
+OVERLOAD double8 convert_double8(uint8 x) { return __ocl_zorv_v8_cvtu32tofprtn8(x); }
+OVERLOAD double16 convert_double16_rte(uint16 x) { return __ocl_zorv_v8_cvtu32tofprtn16(x); }
+OVERLOAD double16 convert_double16(uint16 x) { return __ocl_zorv_v8_cvtu32tofprtn16(x); }
+
+/* cvtfptou32rtzsatf */
+OVERLOAD uint convert_uint_sat_rtz(float x) { return __ocl_zorv_v8_cvtfptou32rtzsatf1(x); }
+OVERLOAD uint convert_uint_sat(float x) { return __ocl_zorv_v8_cvtfptou32rtzsatf1(x); }
+OVERLOAD uint2 convert_uint2_sat_rtz(float2 x) { return __ocl_zorv_v8_cvtfptou32rtzsatf2(x); }
+OVERLOAD uint2 convert_uint2_sat(float2 x) { return __ocl_zorv_v8_cvtfptou32rtzsatf2(x); }
+OVERLOAD uint3 convert_uint3_sat_rtz(float3 x) { return (__ocl_zorv_v8_cvtfptou32rtzsatf3(x.xyzz)).xyz; }
+OVERLOAD uint3 convert_uint3_sat(float3 x) { return (__ocl_zorv_v8_cvtfptou32rtzsatf3(x.xyzz)).xyz; }
+OVERLOAD uint4 convert_uint4_sat_rtz(float4 x) { return __ocl_zorv_v8_cvtfptou32rtzsatf4(x); }
+OVERLOAD uint4 convert_uint4_sat(float4 x) { return __ocl_zorv_v8_cvtfptou32rtzsatf4(x); }
+OVERLOAD uint8 convert_uint8_sat_rtz(float8 x) { return __ocl_zorv_v8_cvtfptou32rtzsatf8(x); }
+OVERLOAD uint8 convert_uint8_sat(float8 x) { return __ocl_zorv_v8_cvtfptou32rtzsatf8(x); }
+OVERLOAD uint16 convert_uint16_sat_rtz(float16 x) { return __ocl_zorv_v8_cvtfptou32rtzsatf16(x); }
+OVERLOAD uint16 convert_uint16_sat(float16 x) { return __ocl_zorv_v8_cvtfptou32rtzsatf16(x); }
+
+/* cvtfptou32rtzsat */
+OVERLOAD uint convert_uint_sat_rtz(double x) { return __ocl_zorv_v8_cvtfptou32rtzsat1(x); }
+OVERLOAD uint convert_uint_sat(double x) { return __ocl_zorv_v8_cvtfptou32rtzsat1(x); }
+OVERLOAD uint2 convert_uint2_sat_rtz(double2 x) { return __ocl_zorv_v8_cvtfptou32rtzsat2(x); }
+OVERLOAD uint2 convert_uint2_sat(double2 x) { return __ocl_zorv_v8_cvtfptou32rtzsat2(x); }
+OVERLOAD uint3 convert_uint3_sat_rtz(double3 x) { return (__ocl_zorv_v8_cvtfptou32rtzsat3(x.xyzz)).xyz; }
+OVERLOAD uint3 convert_uint3_sat(double3 x) { return (__ocl_zorv_v8_cvtfptou32rtzsat3(x.xyzz)).xyz; }
+OVERLOAD uint4 convert_uint4_sat_rtz(double4 x) { return __ocl_zorv_v8_cvtfptou32rtzsat4(x); }
+OVERLOAD uint4 convert_uint4_sat(double4 x) { return __ocl_zorv_v8_cvtfptou32rtzsat4(x); }
+OVERLOAD uint8 convert_uint8_sat_rtz(double8 x) { return __ocl_zorv_v8_cvtfptou32rtzsat8(x); }
+OVERLOAD uint8 convert_uint8_sat(double8 x) { return __ocl_zorv_v8_cvtfptou32rtzsat8(x); }
+OVERLOAD uint16 convert_uint16_sat_rtz(double16 x) { return __ocl_zorv_v8_cvtfptou32rtzsat16(x); }
+OVERLOAD uint16 convert_uint16_sat(double16 x) { return __ocl_zorv_v8_cvtfptou32rtzsat16(x); }
+
+/* cvtfptou32rtznosatf */
+OVERLOAD uint convert_uint_rtz(float x) { return __ocl_zorv_v8_cvtfptou32rtznosatf1(x); }
+OVERLOAD uint convert_uint(float x) { return __ocl_zorv_v8_cvtfptou32rtznosatf1(x); }
+OVERLOAD uint2 convert_uint2_rtz(float2 x) { return __ocl_zorv_v8_cvtfptou32rtznosatf2(x); }
+OVERLOAD uint2 convert_uint2(float2 x) { return __ocl_zorv_v8_cvtfptou32rtznosatf2(x); }
+OVERLOAD uint3 convert_uint3_rtz(float3 x) { return (__ocl_zorv_v8_cvtfptou32rtznosatf3(x.xyzz)).xyz; }
+OVERLOAD uint3 convert_uint3(float3 x) { return (__ocl_zorv_v8_cvtfptou32rtznosatf3(x.xyzz)).xyz; }
+OVERLOAD uint4 convert_uint4_rtz(float4 x) { return __ocl_zorv_v8_cvtfptou32rtznosatf4(x); }
+OVERLOAD uint4 convert_uint4(float4 x) { return __ocl_zorv_v8_cvtfptou32rtznosatf4(x); }
+OVERLOAD uint8 convert_uint8_rtz(float8 x) { return __ocl_zorv_v8_cvtfptou32rtznosatf8(x); }
+OVERLOAD uint8 convert_uint8(float8 x) { return __ocl_zorv_v8_cvtfptou32rtznosatf8(x); }
+OVERLOAD uint16 convert_uint16_rtz(float16 x) { return __ocl_zorv_v8_cvtfptou32rtznosatf16(x); }
+OVERLOAD uint16 convert_uint16(float16 x) { return __ocl_zorv_v8_cvtfptou32rtznosatf16(x); }
+
+/* cvtfptou32rtznosat */
+OVERLOAD uint convert_uint_rtz(double x) { return __ocl_zorv_v8_cvtfptou32rtznosat1(x); }
+OVERLOAD uint convert_uint(double x) { return __ocl_zorv_v8_cvtfptou32rtznosat1(x); }
+OVERLOAD uint2 convert_uint2_rtz(double2 x) { return __ocl_zorv_v8_cvtfptou32rtznosat2(x); }
+OVERLOAD uint2 convert_uint2(double2 x) { return __ocl_zorv_v8_cvtfptou32rtznosat2(x); }
+OVERLOAD uint3 convert_uint3_rtz(double3 x) { return (__ocl_zorv_v8_cvtfptou32rtznosat3(x.xyzz)).xyz; }
+OVERLOAD uint3 convert_uint3(double3 x) { return (__ocl_zorv_v8_cvtfptou32rtznosat3(x.xyzz)).xyz; }
+OVERLOAD uint4 convert_uint4_rtz(double4 x) { return __ocl_zorv_v8_cvtfptou32rtznosat4(x); }
+OVERLOAD uint4 convert_uint4(double4 x) { return __ocl_zorv_v8_cvtfptou32rtznosat4(x); }
+OVERLOAD uint8 convert_uint8_rtz(double8 x) { return __ocl_zorv_v8_cvtfptou32rtznosat8(x); }
+OVERLOAD uint8 convert_uint8(double8 x) { return __ocl_zorv_v8_cvtfptou32rtznosat8(x); }
+OVERLOAD uint16 convert_uint16_rtz(double16 x) { return __ocl_zorv_v8_cvtfptou32rtznosat16(x); }
+OVERLOAD uint16 convert_uint16(double16 x) { return __ocl_zorv_v8_cvtfptou32rtznosat16(x); }
+
+/* cvtu32tofprtzf */
+OVERLOAD float convert_float_rtz(uint x) { return __ocl_zorv_v8_cvtu32tofprtzf1(x); }
+OVERLOAD float2 convert_float2_rtz(uint2 x) { return __ocl_zorv_v8_cvtu32tofprtzf2(x); }
+OVERLOAD float3 convert_float3_rtz(uint3 x) { return (__ocl_zorv_v8_cvtu32tofprtzf3(x.xyzz)).xyz; }
+OVERLOAD float4 convert_float4_rtz(uint4 x) { return __ocl_zorv_v8_cvtu32tofprtzf4(x); }
+OVERLOAD float8 convert_float8_rtz(uint8 x) { return __ocl_zorv_v8_cvtu32tofprtzf8(x); }
+OVERLOAD float16 convert_float16_rtz(uint16 x) { return __ocl_zorv_v8_cvtu32tofprtzf16(x); }
+
+/* cvtu32tofprtz */
+OVERLOAD double convert_double_rtz(uint x) { return __ocl_zorv_v8_cvtu32tofprtz1(x); }
+OVERLOAD double2 convert_double2_rtz(uint2 x) { return __ocl_zorv_v8_cvtu32tofprtz2(x); }
+OVERLOAD double3 convert_double3_rtz(uint3 x) { return (__ocl_zorv_v8_cvtu32tofprtz3(x.xyzz)).xyz; }
+OVERLOAD double4 convert_double4_rtz(uint4 x) { return __ocl_zorv_v8_cvtu32tofprtz4(x); }
+OVERLOAD double8 convert_double8_rtz(uint8 x) { return __ocl_zorv_v8_cvtu32tofprtz8(x); }
+OVERLOAD double16 convert_double16_rtz(uint16 x) { return __ocl_zorv_v8_cvtu32tofprtz16(x); }
+
+/* cvtfptou32upsatf */
+OVERLOAD uint convert_uint_sat_rtp(float x) { return __ocl_zorv_v8_cvtfptou32upsatf1(x); }
+OVERLOAD uint2 convert_uint2_sat_rtp(float2 x) { return __ocl_zorv_v8_cvtfptou32upsatf2(x); }
+OVERLOAD uint3 convert_uint3_sat_rtp(float3 x) { return (__ocl_zorv_v8_cvtfptou32upsatf3(x.xyzz)).xyz; }
+OVERLOAD uint4 convert_uint4_sat_rtp(float4 x) { return __ocl_zorv_v8_cvtfptou32upsatf4(x); }
+OVERLOAD uint8 convert_uint8_sat_rtp(float8 x) { return __ocl_zorv_v8_cvtfptou32upsatf8(x); }
+OVERLOAD uint16 convert_uint16_sat_rtp(float16 x) { return __ocl_zorv_v8_cvtfptou32upsatf16(x); }
+
+/* cvtfptou32upsat */
+OVERLOAD uint convert_uint_sat_rtp(double x) { return __ocl_zorv_v8_cvtfptou32upsat1(x); }
+OVERLOAD uint2 convert_uint2_sat_rtp(double2 x) { return __ocl_zorv_v8_cvtfptou32upsat2(x); }
+OVERLOAD uint3 convert_uint3_sat_rtp(double3 x) { return (__ocl_zorv_v8_cvtfptou32upsat3(x.xyzz)).xyz; }
+OVERLOAD uint4 convert_uint4_sat_rtp(double4 x) { return __ocl_zorv_v8_cvtfptou32upsat4(x); }
+OVERLOAD uint8 convert_uint8_sat_rtp(double8 x) { return __ocl_zorv_v8_cvtfptou32upsat8(x); }
+OVERLOAD uint16 convert_uint16_sat_rtp(double16 x) { return __ocl_zorv_v8_cvtfptou32upsat16(x); }
+
+/* cvtfptou32upnosatf */
+OVERLOAD uint convert_uint_rtp(float x) { return __ocl_zorv_v8_cvtfptou32upnosatf1(x); }
+OVERLOAD uint2 convert_uint2_rtp(float2 x) { return __ocl_zorv_v8_cvtfptou32upnosatf2(x); }
+OVERLOAD uint3 convert_uint3_rtp(float3 x) { return (__ocl_zorv_v8_cvtfptou32upnosatf3(x.xyzz)).xyz; }
+OVERLOAD uint4 convert_uint4_rtp(float4 x) { return __ocl_zorv_v8_cvtfptou32upnosatf4(x); }
+OVERLOAD uint8 convert_uint8_rtp(float8 x) { return __ocl_zorv_v8_cvtfptou32upnosatf8(x); }
+OVERLOAD uint16 convert_uint16_rtp(float16 x) { return __ocl_zorv_v8_cvtfptou32upnosatf16(x); }
+
+/* cvtfptou32upnosat */
+OVERLOAD uint convert_uint_rtp(double x) { return __ocl_zorv_v8_cvtfptou32upnosat1(x); }
+OVERLOAD uint2 convert_uint2_rtp(double2 x) { return __ocl_zorv_v8_cvtfptou32upnosat2(x); }
+OVERLOAD uint3 convert_uint3_rtp(double3 x) { return (__ocl_zorv_v8_cvtfptou32upnosat3(x.xyzz)).xyz; }
+OVERLOAD uint4 convert_uint4_rtp(double4 x) { return __ocl_zorv_v8_cvtfptou32upnosat4(x); }
+OVERLOAD uint8 convert_uint8_rtp(double8 x) { return __ocl_zorv_v8_cvtfptou32upnosat8(x); }
+OVERLOAD uint16 convert_uint16_rtp(double16 x) { return __ocl_zorv_v8_cvtfptou32upnosat16(x); }
+
+/* cvtu32tofpupf */
+OVERLOAD float convert_float_rtp(uint x) { return __ocl_zorv_v8_cvtu32tofpupf1(x); }
+OVERLOAD float2 convert_float2_rtp(uint2 x) { return __ocl_zorv_v8_cvtu32tofpupf2(x); }
+OVERLOAD float3 convert_float3_rtp(uint3 x) { return (__ocl_zorv_v8_cvtu32tofpupf3(x.xyzz)).xyz; }
+OVERLOAD float4 convert_float4_rtp(uint4 x) { return __ocl_zorv_v8_cvtu32tofpupf4(x); }
+OVERLOAD float8 convert_float8_rtp(uint8 x) { return __ocl_zorv_v8_cvtu32tofpupf8(x); }
+OVERLOAD float16 convert_float16_rtp(uint16 x) { return __ocl_zorv_v8_cvtu32tofpupf16(x); }
+
+/* cvtu32tofpup */
+OVERLOAD double convert_double_rtp(uint x) { return __ocl_zorv_v8_cvtu32tofpup1(x); }
+OVERLOAD double2 convert_double2_rtp(uint2 x) { return __ocl_zorv_v8_cvtu32tofpup2(x); }
+OVERLOAD double3 convert_double3_rtp(uint3 x) { return (__ocl_zorv_v8_cvtu32tofpup3(x.xyzz)).xyz; }
+OVERLOAD double4 convert_double4_rtp(uint4 x) { return __ocl_zorv_v8_cvtu32tofpup4(x); }
+OVERLOAD double8 convert_double8_rtp(uint8 x) { return __ocl_zorv_v8_cvtu32tofpup8(x); }
+OVERLOAD double16 convert_double16_rtp(uint16 x) { return __ocl_zorv_v8_cvtu32tofpup16(x); }
+
+/* cvtfptou32downsatf */
+OVERLOAD uint convert_uint_sat_rtn(float x) { return __ocl_zorv_v8_cvtfptou32downsatf1(x); }
+OVERLOAD uint2 convert_uint2_sat_rtn(float2 x) { return __ocl_zorv_v8_cvtfptou32downsatf2(x); }
+OVERLOAD uint3 convert_uint3_sat_rtn(float3 x) { return (__ocl_zorv_v8_cvtfptou32downsatf3(x.xyzz)).xyz; }
+OVERLOAD uint4 convert_uint4_sat_rtn(float4 x) { return __ocl_zorv_v8_cvtfptou32downsatf4(x); }
+OVERLOAD uint8 convert_uint8_sat_rtn(float8 x) { return __ocl_zorv_v8_cvtfptou32downsatf8(x); }
+OVERLOAD uint16 convert_uint16_sat_rtn(float16 x) { return __ocl_zorv_v8_cvtfptou32downsatf16(x); }
+
+/* cvtfptou32downsat */
+OVERLOAD uint convert_uint_sat_rtn(double x) { return __ocl_zorv_v8_cvtfptou32downsat1(x); }
+OVERLOAD uint2 convert_uint2_sat_rtn(double2 x) { return __ocl_zorv_v8_cvtfptou32downsat2(x); }
+OVERLOAD uint3 convert_uint3_sat_rtn(double3 x) { return (__ocl_zorv_v8_cvtfptou32downsat3(x.xyzz)).xyz; }
+OVERLOAD uint4 convert_uint4_sat_rtn(double4 x) { return __ocl_zorv_v8_cvtfptou32downsat4(x); }
+OVERLOAD uint8 convert_uint8_sat_rtn(double8 x) { return __ocl_zorv_v8_cvtfptou32downsat8(x); }
+OVERLOAD uint16 convert_uint16_sat_rtn(double16 x) { return __ocl_zorv_v8_cvtfptou32downsat16(x); }
+
+/* cvtfptou32downnosatf */
+OVERLOAD uint convert_uint_rtn(float x) { return __ocl_zorv_v8_cvtfptou32downnosatf1(x); }
+OVERLOAD uint2 convert_uint2_rtn(float2 x) { return __ocl_zorv_v8_cvtfptou32downnosatf2(x); }
+OVERLOAD uint3 convert_uint3_rtn(float3 x) { return (__ocl_zorv_v8_cvtfptou32downnosatf3(x.xyzz)).xyz; }
+OVERLOAD uint4 convert_uint4_rtn(float4 x) { return __ocl_zorv_v8_cvtfptou32downnosatf4(x); }
+OVERLOAD uint8 convert_uint8_rtn(float8 x) { return __ocl_zorv_v8_cvtfptou32downnosatf8(x); }
+OVERLOAD uint16 convert_uint16_rtn(float16 x) { return __ocl_zorv_v8_cvtfptou32downnosatf16(x); }
+
+/* cvtfptou32downnosat */
+OVERLOAD uint convert_uint_rtn(double x) { return __ocl_zorv_v8_cvtfptou32downnosat1(x); }
+OVERLOAD uint2 convert_uint2_rtn(double2 x) { return __ocl_zorv_v8_cvtfptou32downnosat2(x); }
+OVERLOAD uint3 convert_uint3_rtn(double3 x) { return (__ocl_zorv_v8_cvtfptou32downnosat3(x.xyzz)).xyz; }
+OVERLOAD uint4 convert_uint4_rtn(double4 x) { return __ocl_zorv_v8_cvtfptou32downnosat4(x); }
+OVERLOAD uint8 convert_uint8_rtn(double8 x) { return __ocl_zorv_v8_cvtfptou32downnosat8(x); }
+OVERLOAD uint16 convert_uint16_rtn(double16 x) { return __ocl_zorv_v8_cvtfptou32downnosat16(x); }
+
+/* cvtu32tofpdownf */
+OVERLOAD float convert_float_rtn(uint x) { return __ocl_zorv_v8_cvtu32tofpdownf1(x); }
+OVERLOAD float2 convert_float2_rtn(uint2 x) { return __ocl_zorv_v8_cvtu32tofpdownf2(x); }
+OVERLOAD float3 convert_float3_rtn(uint3 x) { return (__ocl_zorv_v8_cvtu32tofpdownf3(x.xyzz)).xyz; }
+OVERLOAD float4 convert_float4_rtn(uint4 x) { return __ocl_zorv_v8_cvtu32tofpdownf4(x); }
+OVERLOAD float8 convert_float8_rtn(uint8 x) { return __ocl_zorv_v8_cvtu32tofpdownf8(x); }
+OVERLOAD float16 convert_float16_rtn(uint16 x) { return __ocl_zorv_v8_cvtu32tofpdownf16(x); }
+
+/* cvtu32tofpdown */
+OVERLOAD double convert_double_rtn(uint x) { return __ocl_zorv_v8_cvtu32tofpdown1(x); }
+OVERLOAD double2 convert_double2_rtn(uint2 x) { return __ocl_zorv_v8_cvtu32tofpdown2(x); }
+OVERLOAD double3 convert_double3_rtn(uint3 x) { return (__ocl_zorv_v8_cvtu32tofpdown3(x.xyzz)).xyz; }
+OVERLOAD double4 convert_double4_rtn(uint4 x) { return __ocl_zorv_v8_cvtu32tofpdown4(x); }
+OVERLOAD double8 convert_double8_rtn(uint8 x) { return __ocl_zorv_v8_cvtu32tofpdown8(x); }
+OVERLOAD double16 convert_double16_rtn(uint16 x) { return __ocl_zorv_v8_cvtu32tofpdown16(x); }
+
+/* cvtfptoi64rtnsatf */
+OVERLOAD long convert_long_sat_rte(float x) { return __ocl_zorv_v8_cvtfptoi64rtnsatf1(x); }
+OVERLOAD long2 convert_long2_sat_rte(float2 x) { return __ocl_zorv_v8_cvtfptoi64rtnsatf2(x); }
+OVERLOAD long3 convert_long3_sat_rte(float3 x) { return (__ocl_zorv_v8_cvtfptoi64rtnsatf3(x.xyzz)).xyz; }
+OVERLOAD long4 convert_long4_sat_rte(float4 x) { return __ocl_zorv_v8_cvtfptoi64rtnsatf4(x); }
+OVERLOAD long8 convert_long8_sat_rte(float8 x) { return __ocl_zorv_v8_cvtfptoi64rtnsatf8(x); }
+OVERLOAD long16 convert_long16_sat_rte(float16 x) { return __ocl_zorv_v8_cvtfptoi64rtnsatf16(x); }
+
+/* cvtfptoi64rtnsat */
+OVERLOAD long convert_long_sat_rte(double x) { return __ocl_zorv_v8_cvtfptoi64rtnsat1(x); }
+OVERLOAD long2 convert_long2_sat_rte(double2 x) { return __ocl_zorv_v8_cvtfptoi64rtnsat2(x); }
+OVERLOAD long3 convert_long3_sat_rte(double3 x) { return (__ocl_zorv_v8_cvtfptoi64rtnsat3(x.xyzz)).xyz; }
+OVERLOAD long4 convert_long4_sat_rte(double4 x) { return __ocl_zorv_v8_cvtfptoi64rtnsat4(x); }
+OVERLOAD long8 convert_long8_sat_rte(double8 x) { return __ocl_zorv_v8_cvtfptoi64rtnsat8(x); }
+OVERLOAD long16 convert_long16_sat_rte(double16 x) { return __ocl_zorv_v8_cvtfptoi64rtnsat16(x); }
+
+/* cvtfptoi64rtnnosatf */
+OVERLOAD long convert_long_rte(float x) { return __ocl_zorv_v8_cvtfptoi64rtnnosatf1(x); }
+OVERLOAD long2 convert_long2_rte(float2 x) { return __ocl_zorv_v8_cvtfptoi64rtnnosatf2(x); }
+OVERLOAD long3 convert_long3_rte(float3 x) { return (__ocl_zorv_v8_cvtfptoi64rtnnosatf3(x.xyzz)).xyz; }
+OVERLOAD long4 convert_long4_rte(float4 x) { return __ocl_zorv_v8_cvtfptoi64rtnnosatf4(x); }
+OVERLOAD long8 convert_long8_rte(float8 x) { return __ocl_zorv_v8_cvtfptoi64rtnnosatf8(x); }
+OVERLOAD long16 convert_long16_rte(float16 x) { return __ocl_zorv_v8_cvtfptoi64rtnnosatf16(x); }
+
+/* cvtfptoi64rtnnosat */
+OVERLOAD long convert_long_rte(double x) { return __ocl_zorv_v8_cvtfptoi64rtnnosat1(x); }
+OVERLOAD long2 convert_long2_rte(double2 x) { return __ocl_zorv_v8_cvtfptoi64rtnnosat2(x); }
+OVERLOAD long3 convert_long3_rte(double3 x) { return (__ocl_zorv_v8_cvtfptoi64rtnnosat3(x.xyzz)).xyz; }
+OVERLOAD long4 convert_long4_rte(double4 x) { return __ocl_zorv_v8_cvtfptoi64rtnnosat4(x); }
+OVERLOAD long8 convert_long8_rte(double8 x) { return __ocl_zorv_v8_cvtfptoi64rtnnosat8(x); }
+OVERLOAD long16 convert_long16_rte(double16 x) { return __ocl_zorv_v8_cvtfptoi64rtnnosat16(x); }
+
+/* cvti64tofprtnf */
+OVERLOAD float convert_float_rte(long x) { return __ocl_zorv_v8_cvti64tofprtnf1(x); }
+OVERLOAD float convert_float(long x) { return __ocl_zorv_v8_cvti64tofprtnf1(x); }
+OVERLOAD float2 convert_float2_rte(long2 x) { return __ocl_zorv_v8_cvti64tofprtnf2(x); }
+OVERLOAD float2 convert_float2(long2 x) { return __ocl_zorv_v8_cvti64tofprtnf2(x); }
+OVERLOAD float3 convert_float3_rte(long3 x) { return (__ocl_zorv_v8_cvti64tofprtnf3(x.xyzz)).xyz; }
+OVERLOAD float3 convert_float3(long3 x) { return (__ocl_zorv_v8_cvti64tofprtnf3(x.xyzz)).xyz; }
+OVERLOAD float4 convert_float4_rte(long4 x) { return __ocl_zorv_v8_cvti64tofprtnf4(x); }
+OVERLOAD float4 convert_float4(long4 x) { return __ocl_zorv_v8_cvti64tofprtnf4(x); }
+OVERLOAD float8 convert_float8_rte(long8 x) { return __ocl_zorv_v8_cvti64tofprtnf8(x); }
+OVERLOAD float8 convert_float8(long8 x) { return __ocl_zorv_v8_cvti64tofprtnf8(x); }
+OVERLOAD float16 convert_float16_rte(long16 x) { return __ocl_zorv_v8_cvti64tofprtnf16(x); }
+OVERLOAD float16 convert_float16(long16 x) { return __ocl_zorv_v8_cvti64tofprtnf16(x); }
+
+/* cvti64tofprtn */
+OVERLOAD double convert_double_rte(long x) { return __ocl_zorv_v8_cvti64tofprtn1(x); }
+OVERLOAD double convert_double(long x) { return __ocl_zorv_v8_cvti64tofprtn1(x); }
+OVERLOAD double2 convert_double2_rte(long2 x) { return __ocl_zorv_v8_cvti64tofprtn2(x); }
+OVERLOAD double2 convert_double2(long2 x) { return __ocl_zorv_v8_cvti64tofprtn2(x); }
+OVERLOAD double3 convert_double3_rte(long3 x) { return (__ocl_zorv_v8_cvti64tofprtn3(x.xyzz)).xyz; }
+OVERLOAD double3 convert_double3(long3 x) { return (__ocl_zorv_v8_cvti64tofprtn3(x.xyzz)).xyz; }
+OVERLOAD double4 convert_double4_rte(long4 x) { return __ocl_zorv_v8_cvti64tofprtn4(x); }
+OVERLOAD double4 convert_double4(long4 x) { return __ocl_zorv_v8_cvti64tofprtn4(x); }
+OVERLOAD double8 convert_double8_rte(long8 x) { return __ocl_zorv_v8_cvti64tofprtn8(x); }
+OVERLOAD double8 convert_double8(long8 x) { return __ocl_zorv_v8_cvti64tofprtn8(x); }
+OVERLOAD double16 convert_double16_rte(long16 x) { return __ocl_zorv_v8_cvti64tofprtn16(x); }
+OVERLOAD double16 convert_double16(long16 x) { return __ocl_zorv_v8_cvti64tofprtn16(x); }
+
+/* cvtfptoi64rtzsatf */
+OVERLOAD long convert_long_sat_rtz(float x) { return __ocl_zorv_v8_cvtfptoi64rtzsatf1(x); }
+OVERLOAD long convert_long_sat(float x) { return __ocl_zorv_v8_cvtfptoi64rtzsatf1(x); }
+OVERLOAD long2 convert_long2_sat_rtz(float2 x) { return __ocl_zorv_v8_cvtfptoi64rtzsatf2(x); }
+OVERLOAD long2 convert_long2_sat(float2 x) { return __ocl_zorv_v8_cvtfptoi64rtzsatf2(x); }
+OVERLOAD long3 convert_long3_sat_rtz(float3 x) { return (__ocl_zorv_v8_cvtfptoi64rtzsatf3(x.xyzz)).xyz; }
+OVERLOAD long3 convert_long3_sat(float3 x) { return (__ocl_zorv_v8_cvtfptoi64rtzsatf3(x.xyzz)).xyz; }
+OVERLOAD long4 convert_long4_sat_rtz(float4 x) { return __ocl_zorv_v8_cvtfptoi64rtzsatf4(x); }
+OVERLOAD long4 convert_long4_sat(float4 x) { return __ocl_zorv_v8_cvtfptoi64rtzsatf4(x); }
+OVERLOAD long8 convert_long8_sat_rtz(float8 x) { return __ocl_zorv_v8_cvtfptoi64rtzsatf8(x); }
+OVERLOAD long8 convert_long8_sat(float8 x) { return __ocl_zorv_v8_cvtfptoi64rtzsatf8(x); }
+OVERLOAD long16 convert_long16_sat_rtz(float16 x) { return __ocl_zorv_v8_cvtfptoi64rtzsatf16(x); }
+OVERLOAD long16 convert_long16_sat(float16 x) { return __ocl_zorv_v8_cvtfptoi64rtzsatf16(x); }
+
+/* cvtfptoi64rtzsat */
+OVERLOAD long convert_long_sat_rtz(double x) { return __ocl_zorv_v8_cvtfptoi64rtzsat1(x); }
+OVERLOAD long convert_long_sat(double x) { return __ocl_zorv_v8_cvtfptoi64rtzsat1(x); }
+OVERLOAD long2 convert_long2_sat_rtz(double2 x) { return __ocl_zorv_v8_cvtfptoi64rtzsat2(x); }
+OVERLOAD long2 convert_long2_sat(double2 x) { return __ocl_zorv_v8_cvtfptoi64rtzsat2(x); }
+OVERLOAD long3 convert_long3_sat_rtz(double3 x) { return (__ocl_zorv_v8_cvtfptoi64rtzsat3(x.xyzz)).xyz; }
+OVERLOAD long3 convert_long3_sat(double3 x) { return (__ocl_zorv_v8_cvtfptoi64rtzsat3(x.xyzz)).xyz; }
+OVERLOAD long4 convert_long4_sat_rtz(double4 x) { return __ocl_zorv_v8_cvtfptoi64rtzsat4(x); }
+OVERLOAD long4 convert_long4_sat(double4 x) { return __ocl_zorv_v8_cvtfptoi64rtzsat4(x); }
+OVERLOAD long8 convert_long8_sat_rtz(double8 x) { return __ocl_zorv_v8_cvtfptoi64rtzsat8(x); }
+OVERLOAD long8 convert_long8_sat(double8 x) { return __ocl_zorv_v8_cvtfptoi64rtzsat8(x); }
+OVERLOAD long16 convert_long16_sat_rtz(double16 x) { return __ocl_zorv_v8_cvtfptoi64rtzsat16(x); }
+OVERLOAD long16 convert_long16_sat(double16 x) { return __ocl_zorv_v8_cvtfptoi64rtzsat16(x); }
+
+/* cvtfptoi64rtznosatf */
+OVERLOAD long convert_long_rtz(float x) { return __ocl_zorv_v8_cvtfptoi64rtznosatf1(x); }
+OVERLOAD long convert_long(float x) { return __ocl_zorv_v8_cvtfptoi64rtznosatf1(x); }
+OVERLOAD long2 convert_long2_rtz(float2 x) { return __ocl_zorv_v8_cvtfptoi64rtznosatf2(x); }
+OVERLOAD long2 convert_long2(float2 x) { return __ocl_zorv_v8_cvtfptoi64rtznosatf2(x); }
+OVERLOAD long3 convert_long3_rtz(float3 x) { return (__ocl_zorv_v8_cvtfptoi64rtznosatf3(x.xyzz)).xyz; }
+OVERLOAD long3 convert_long3(float3 x) { return (__ocl_zorv_v8_cvtfptoi64rtznosatf3(x.xyzz)).xyz; }
+OVERLOAD long4 convert_long4_rtz(float4 x) { return __ocl_zorv_v8_cvtfptoi64rtznosatf4(x); }
+OVERLOAD long4 convert_long4(float4 x) { return __ocl_zorv_v8_cvtfptoi64rtznosatf4(x); }
+OVERLOAD long8 convert_long8_rtz(float8 x) { return __ocl_zorv_v8_cvtfptoi64rtznosatf8(x); }
+OVERLOAD long8 convert_long8(float8 x) { return __ocl_zorv_v8_cvtfptoi64rtznosatf8(x); }
+OVERLOAD long16 convert_long16_rtz(float16 x) { return __ocl_zorv_v8_cvtfptoi64rtznosatf16(x); }
+OVERLOAD long16 convert_long16(float16 x) { return __ocl_zorv_v8_cvtfptoi64rtznosatf16(x); }
+
+/* cvtfptoi64rtznosat */
+OVERLOAD long convert_long_rtz(double x) { return __ocl_zorv_v8_cvtfptoi64rtznosat1(x); }
+OVERLOAD long convert_long(double x) { return __ocl_zorv_v8_cvtfptoi64rtznosat1(x); }
+OVERLOAD long2 convert_long2_rtz(double2 x) { return __ocl_zorv_v8_cvtfptoi64rtznosat2(x); }
+OVERLOAD long2 convert_long2(double2 x) { return __ocl_zorv_v8_cvtfptoi64rtznosat2(x); }
+OVERLOAD long3 convert_long3_rtz(double3 x) { return (__ocl_zorv_v8_cvtfptoi64rtznosat3(x.xyzz)).xyz; }
+OVERLOAD long3 convert_long3(double3 x) { return (__ocl_zorv_v8_cvtfptoi64rtznosat3(x.xyzz)).xyz; }
+OVERLOAD long4 convert_long4_rtz(double4 x) { return __ocl_zorv_v8_cvtfptoi64rtznosat4(x); }
+OVERLOAD long4 convert_long4(double4 x) { return __ocl_zorv_v8_cvtfptoi64rtznosat4(x); }
+OVERLOAD long8 convert_long8_rtz(double8 x) { return __ocl_zorv_v8_cvtfptoi64rtznosat8(x); }
+OVERLOAD long8 convert_long8(double8 x) { return __ocl_zorv_v8_cvtfptoi64rtznosat8(x); }
+OVERLOAD long16 convert_long16_rtz(double16 x) { return __ocl_zorv_v8_cvtfptoi64rtznosat16(x); }
+OVERLOAD long16 convert_long16(double16 x) { return __ocl_zorv_v8_cvtfptoi64rtznosat16(x); }
+
+/* cvti64tofprtzf */
+OVERLOAD float convert_float_rtz(long x) { return __ocl_zorv_v8_cvti64tofprtzf1(x); }
+OVERLOAD float2 convert_float2_rtz(long2 x) { return __ocl_zorv_v8_cvti64tofprtzf2(x); }
+OVERLOAD float3 convert_float3_rtz(long3 x) { return (__ocl_zorv_v8_cvti64tofprtzf3(x.xyzz)).xyz; }
+OVERLOAD float4 convert_float4_rtz(long4 x) { return __ocl_zorv_v8_cvti64tofprtzf4(x); }
+OVERLOAD float8 convert_float8_rtz(long8 x) { return __ocl_zorv_v8_cvti64tofprtzf8(x); }
+OVERLOAD float16 convert_float16_rtz(long16 x) { return __ocl_zorv_v8_cvti64tofprtzf16(x); }
+
+/* cvti64tofprtz */
+OVERLOAD double convert_double_rtz(long x) { return __ocl_zorv_v8_cvti64tofprtz1(x); }
+OVERLOAD double2 convert_double2_rtz(long2 x) { return __ocl_zorv_v8_cvti64tofprtz2(x); }
+OVERLOAD double3 convert_double3_rtz(long3 x) { return (__ocl_zorv_v8_cvti64tofprtz3(x.xyzz)).xyz; }
+OVERLOAD double4 convert_double4_rtz(long4 x) { return __ocl_zorv_v8_cvti64tofprtz4(x); }
+OVERLOAD double8 convert_double8_rtz(long8 x) { return __ocl_zorv_v8_cvti64tofprtz8(x); }
+OVERLOAD double16 convert_double16_rtz(long16 x) { return __ocl_zorv_v8_cvti64tofprtz16(x); }
+
+/* cvtfptoi64upsatf */
+OVERLOAD long convert_long_sat_rtp(float x) { return __ocl_zorv_v8_cvtfptoi64upsatf1(x); }
+OVERLOAD long2 convert_long2_sat_rtp(float2 x) { return __ocl_zorv_v8_cvtfptoi64upsatf2(x); }
+OVERLOAD long3 convert_long3_sat_rtp(float3 x) { return (__ocl_zorv_v8_cvtfptoi64upsatf3(x.xyzz)).xyz; }
+OVERLOAD long4 convert_long4_sat_rtp(float4 x) { return __ocl_zorv_v8_cvtfptoi64upsatf4(x); }
+OVERLOAD long8 convert_long8_sat_rtp(float8 x) { return __ocl_zorv_v8_cvtfptoi64upsatf8(x); }
+OVERLOAD long16 convert_long16_sat_rtp(float16 x) { return __ocl_zorv_v8_cvtfptoi64upsatf16(x); }
+
+/* cvtfptoi64upsat */
+OVERLOAD long convert_long_sat_rtp(double x) { return __ocl_zorv_v8_cvtfptoi64upsat1(x); }
+OVERLOAD long2 convert_long2_sat_rtp(double2 x) { return __ocl_zorv_v8_cvtfptoi64upsat2(x); }
+OVERLOAD long3 convert_long3_sat_rtp(double3 x) { return (__ocl_zorv_v8_cvtfptoi64upsat3(x.xyzz)).xyz; }
+OVERLOAD long4 convert_long4_sat_rtp(double4 x) { return __ocl_zorv_v8_cvtfptoi64upsat4(x); }
+OVERLOAD long8 convert_long8_sat_rtp(double8 x) { return __ocl_zorv_v8_cvtfptoi64upsat8(x); }
+OVERLOAD long16 convert_long16_sat_rtp(double16 x) { return __ocl_zorv_v8_cvtfptoi64upsat16(x); }
+
+/* cvtfptoi64upnosatf */
+OVERLOAD long convert_long_rtp(float x) { return __ocl_zorv_v8_cvtfptoi64upnosatf1(x); }
+OVERLOAD long2 convert_long2_rtp(float2 x) { return __ocl_zorv_v8_cvtfptoi64upnosatf2(x); }
+OVERLOAD long3 convert_long3_rtp(float3 x) { return (__ocl_zorv_v8_cvtfptoi64upnosatf3(x.xyzz)).xyz; }
+OVERLOAD long4 convert_long4_rtp(float4 x) { return __ocl_zorv_v8_cvtfptoi64upnosatf4(x); }
+OVERLOAD long8 convert_long8_rtp(float8 x) { return __ocl_zorv_v8_cvtfptoi64upnosatf8(x); }
+OVERLOAD long16 convert_long16_rtp(float16 x) { return __ocl_zorv_v8_cvtfptoi64upnosatf16(x); }
+
+/* cvtfptoi64upnosat */
+OVERLOAD long convert_long_rtp(double x) { return __ocl_zorv_v8_cvtfptoi64upnosat1(x); }
+OVERLOAD long2 convert_long2_rtp(double2 x) { return __ocl_zorv_v8_cvtfptoi64upnosat2(x); }
+OVERLOAD long3 convert_long3_rtp(double3 x) { return (__ocl_zorv_v8_cvtfptoi64upnosat3(x.xyzz)).xyz; }
+OVERLOAD long4 convert_long4_rtp(double4 x) { return __ocl_zorv_v8_cvtfptoi64upnosat4(x); }
+OVERLOAD long8 convert_long8_rtp(double8 x) { return __ocl_zorv_v8_cvtfptoi64upnosat8(x); }
+OVERLOAD long16 convert_long16_rtp(double16 x) { return __ocl_zorv_v8_cvtfptoi64upnosat16(x); }
+
+/* cvti64tofpupf */
+OVERLOAD float convert_float_rtp(long x) { return __ocl_zorv_v8_cvti64tofpupf1(x); }
+OVERLOAD float2 convert_float2_rtp(long2 x) { return __ocl_zorv_v8_cvti64tofpupf2(x); }
+OVERLOAD float3 convert_float3_rtp(long3 x) { return (__ocl_zorv_v8_cvti64tofpupf3(x.xyzz)).xyz; }
+OVERLOAD float4 convert_float4_rtp(long4 x) { return __ocl_zorv_v8_cvti64tofpupf4(x); }
+OVERLOAD float8 convert_float8_rtp(long8 x) { return __ocl_zorv_v8_cvti64tofpupf8(x); }
+OVERLOAD float16 convert_float16_rtp(long16 x) { return __ocl_zorv_v8_cvti64tofpupf16(x); }
+
+/* cvti64tofpup */
+OVERLOAD double convert_double_rtp(long x) { return __ocl_zorv_v8_cvti64tofpup1(x); }
+OVERLOAD double2 convert_double2_rtp(long2 x) { return __ocl_zorv_v8_cvti64tofpup2(x); }
+OVERLOAD double3 convert_double3_rtp(long3 x) { return (__ocl_zorv_v8_cvti64tofpup3(x.xyzz)).xyz; }
+OVERLOAD double4 convert_double4_rtp(long4 x) { return __ocl_zorv_v8_cvti64tofpup4(x); }
+OVERLOAD double8 convert_double8_rtp(long8 x) { return __ocl_zorv_v8_cvti64tofpup8(x); }
+OVERLOAD double16 convert_double16_rtp(long16 x) { return __ocl_zorv_v8_cvti64tofpup16(x); }
+
+/* cvtfptoi64downsatf */
+OVERLOAD long convert_long_sat_rtn(float x) { return __ocl_zorv_v8_cvtfptoi64downsatf1(x); }
+OVERLOAD long2 convert_long2_sat_rtn(float2 x) { return __ocl_zorv_v8_cvtfptoi64downsatf2(x); }
+OVERLOAD long3 convert_long3_sat_rtn(float3 x) { return (__ocl_zorv_v8_cvtfptoi64downsatf3(x.xyzz)).xyz; }
+OVERLOAD long4 convert_long4_sat_rtn(float4 x) { return __ocl_zorv_v8_cvtfptoi64downsatf4(x); }
+OVERLOAD long8 convert_long8_sat_rtn(float8 x) { return __ocl_zorv_v8_cvtfptoi64downsatf8(x); }
+OVERLOAD long16 convert_long16_sat_rtn(float16 x) { return __ocl_zorv_v8_cvtfptoi64downsatf16(x); }
+
+/* cvtfptoi64downsat */
+OVERLOAD long convert_long_sat_rtn(double x) { return __ocl_zorv_v8_cvtfptoi64downsat1(x); }
+OVERLOAD long2 convert_long2_sat_rtn(double2 x) { return __ocl_zorv_v8_cvtfptoi64downsat2(x); }
+OVERLOAD long3 convert_long3_sat_rtn(double3 x) { return (__ocl_zorv_v8_cvtfptoi64downsat3(x.xyzz)).xyz; }
+OVERLOAD long4 convert_long4_sat_rtn(double4 x) { return __ocl_zorv_v8_cvtfptoi64downsat4(x); }
+OVERLOAD long8 convert_long8_sat_rtn(double8 x) { return __ocl_zorv_v8_cvtfptoi64downsat8(x); }
+OVERLOAD long16 convert_long16_sat_rtn(double16 x) { return __ocl_zorv_v8_cvtfptoi64downsat16(x); }
+
+/* cvtfptoi64downnosatf */
+OVERLOAD long convert_long_rtn(float x) { return __ocl_zorv_v8_cvtfptoi64downnosatf1(x); }
+OVERLOAD long2 convert_long2_rtn(float2 x) { return __ocl_zorv_v8_cvtfptoi64downnosatf2(x); }
+OVERLOAD long3 convert_long3_rtn(float3 x) { return (__ocl_zorv_v8_cvtfptoi64downnosatf3(x.xyzz)).xyz; }
+OVERLOAD long4 convert_long4_rtn(float4 x) { return __ocl_zorv_v8_cvtfptoi64downnosatf4(x); }
+OVERLOAD long8 convert_long8_rtn(float8 x) { return __ocl_zorv_v8_cvtfptoi64downnosatf8(x); }
+OVERLOAD long16 convert_long16_rtn(float16 x) { return __ocl_zorv_v8_cvtfptoi64downnosatf16(x); }
+
+/* cvtfptoi64downnosat */
+OVERLOAD long convert_long_rtn(double x) { return __ocl_zorv_v8_cvtfptoi64downnosat1(x); }
+OVERLOAD long2 convert_long2_rtn(double2 x) { return __ocl_zorv_v8_cvtfptoi64downnosat2(x); }
+OVERLOAD long3 convert_long3_rtn(double3 x) { return (__ocl_zorv_v8_cvtfptoi64downnosat3(x.xyzz)).xyz; }
+OVERLOAD long4 convert_long4_rtn(double4 x) { return __ocl_zorv_v8_cvtfptoi64downnosat4(x); }
+OVERLOAD long8 convert_long8_rtn(double8 x) { return __ocl_zorv_v8_cvtfptoi64downnosat8(x); }
+OVERLOAD long16 convert_long16_rtn(double16 x) { return __ocl_zorv_v8_cvtfptoi64downnosat16(x); }
+
+/* cvti64tofpdownf */
+OVERLOAD float convert_float_rtn(long x) { return __ocl_zorv_v8_cvti64tofpdownf1(x); }
+OVERLOAD float2 convert_float2_rtn(long2 x) { return __ocl_zorv_v8_cvti64tofpdownf2(x); }
+OVERLOAD float3 convert_float3_rtn(long3 x) { return (__ocl_zorv_v8_cvti64tofpdownf3(x.xyzz)).xyz; }
+OVERLOAD float4 convert_float4_rtn(long4 x) { return __ocl_zorv_v8_cvti64tofpdownf4(x); }
+OVERLOAD float8 convert_float8_rtn(long8 x) { return __ocl_zorv_v8_cvti64tofpdownf8(x); }
+OVERLOAD float16 convert_float16_rtn(long16 x) { return __ocl_zorv_v8_cvti64tofpdownf16(x); }
+
+/* cvti64tofpdown */
+OVERLOAD double convert_double_rtn(long x) { return __ocl_zorv_v8_cvti64tofpdown1(x); }
+OVERLOAD double2 convert_double2_rtn(long2 x) { return __ocl_zorv_v8_cvti64tofpdown2(x); }
+OVERLOAD double3 convert_double3_rtn(long3 x) { return (__ocl_zorv_v8_cvti64tofpdown3(x.xyzz)).xyz; }
+OVERLOAD double4 convert_double4_rtn(long4 x) { return __ocl_zorv_v8_cvti64tofpdown4(x); }
+OVERLOAD double8 convert_double8_rtn(long8 x) { return __ocl_zorv_v8_cvti64tofpdown8(x); }
+OVERLOAD double16 convert_double16_rtn(long16 x) { return __ocl_zorv_v8_cvti64tofpdown16(x); }
+
+/* cvtfptou64rtnsatf */
+OVERLOAD ulong convert_ulong_sat_rte(float x) { return __ocl_zorv_v8_cvtfptou64rtnsatf1(x); }
+OVERLOAD ulong2 convert_ulong2_sat_rte(float2 x) { return __ocl_zorv_v8_cvtfptou64rtnsatf2(x); }
+OVERLOAD ulong3 convert_ulong3_sat_rte(float3 x) { return (__ocl_zorv_v8_cvtfptou64rtnsatf3(x.xyzz)).xyz; }
+OVERLOAD ulong4 convert_ulong4_sat_rte(float4 x) { return __ocl_zorv_v8_cvtfptou64rtnsatf4(x); }
+OVERLOAD ulong8 convert_ulong8_sat_rte(float8 x) { return __ocl_zorv_v8_cvtfptou64rtnsatf8(x); }
+OVERLOAD ulong16 convert_ulong16_sat_rte(float16 x) { return __ocl_zorv_v8_cvtfptou64rtnsatf16(x); }
+
+/* cvtfptou64rtnsat */
+OVERLOAD ulong convert_ulong_sat_rte(double x) { return __ocl_zorv_v8_cvtfptou64rtnsat1(x); }
+OVERLOAD ulong2 convert_ulong2_sat_rte(double2 x) { return __ocl_zorv_v8_cvtfptou64rtnsat2(x); }
+OVERLOAD ulong3 convert_ulong3_sat_rte(double3 x) { return (__ocl_zorv_v8_cvtfptou64rtnsat3(x.xyzz)).xyz; }
+OVERLOAD ulong4 convert_ulong4_sat_rte(double4 x) { return __ocl_zorv_v8_cvtfptou64rtnsat4(x); }
+OVERLOAD ulong8 convert_ulong8_sat_rte(double8 x) { return __ocl_zorv_v8_cvtfptou64rtnsat8(x); }
+OVERLOAD ulong16 convert_ulong16_sat_rte(double16 x) { return __ocl_zorv_v8_cvtfptou64rtnsat16(x); }
+
+/* cvtfptou64rtnnosatf */
+OVERLOAD ulong convert_ulong_rte(float x) { return __ocl_zorv_v8_cvtfptou64rtnnosatf1(x); }
+OVERLOAD ulong2 convert_ulong2_rte(float2 x) { return __ocl_zorv_v8_cvtfptou64rtnnosatf2(x); }
+OVERLOAD ulong3 convert_ulong3_rte(float3 x) { return (__ocl_zorv_v8_cvtfptou64rtnnosatf3(x.xyzz)).xyz; }
+OVERLOAD ulong4 convert_ulong4_rte(float4 x) { return __ocl_zorv_v8_cvtfptou64rtnnosatf4(x); }
+OVERLOAD ulong8 convert_ulong8_rte(float8 x) { return __ocl_zorv_v8_cvtfptou64rtnnosatf8(x); }
+OVERLOAD ulong16 convert_ulong16_rte(float16 x) { return __ocl_zorv_v8_cvtfptou64rtnnosatf16(x); }
+
+/* cvtfptou64rtnnosat */
+OVERLOAD ulong convert_ulong_rte(double x) { return __ocl_zorv_v8_cvtfptou64rtnnosat1(x); }
+OVERLOAD ulong2 convert_ulong2_rte(double2 x) { return __ocl_zorv_v8_cvtfptou64rtnnosat2(x); }
+OVERLOAD ulong3 convert_ulong3_rte(double3 x) { return (__ocl_zorv_v8_cvtfptou64rtnnosat3(x.xyzz)).xyz; }
+OVERLOAD ulong4 convert_ulong4_rte(double4 x) { return __ocl_zorv_v8_cvtfptou64rtnnosat4(x); }
+OVERLOAD ulong8 convert_ulong8_rte(double8 x) { return __ocl_zorv_v8_cvtfptou64rtnnosat8(x); }
+OVERLOAD ulong16 convert_ulong16_rte(double16 x) { return __ocl_zorv_v8_cvtfptou64rtnnosat16(x); }
+
+/* cvtu64tofprtnf */
+OVERLOAD float convert_float_rte(ulong x) { return __ocl_zorv_v8_cvtu64tofprtnf1(x); }
+OVERLOAD float convert_float(ulong x) { return __ocl_zorv_v8_cvtu64tofprtnf1(x); }
+OVERLOAD float2 convert_float2_rte(ulong2 x) { return __ocl_zorv_v8_cvtu64tofprtnf2(x); }
+OVERLOAD float2 convert_float2(ulong2 x) { return __ocl_zorv_v8_cvtu64tofprtnf2(x); }
+OVERLOAD float3 convert_float3_rte(ulong3 x) { return (__ocl_zorv_v8_cvtu64tofprtnf3(x.xyzz)).xyz; }
+OVERLOAD float3 convert_float3(ulong3 x) { return (__ocl_zorv_v8_cvtu64tofprtnf3(x.xyzz)).xyz; }
+OVERLOAD float4 convert_float4_rte(ulong4 x) { return __ocl_zorv_v8_cvtu64tofprtnf4(x); }
+OVERLOAD float4 convert_float4(ulong4 x) { return __ocl_zorv_v8_cvtu64tofprtnf4(x); }
+OVERLOAD float8 convert_float8_rte(ulong8 x) { return __ocl_zorv_v8_cvtu64tofprtnf8(x); }
+OVERLOAD float8 convert_float8(ulong8 x) { return __ocl_zorv_v8_cvtu64tofprtnf8(x); }
+OVERLOAD float16 convert_float16_rte(ulong16 x) { return __ocl_zorv_v8_cvtu64tofprtnf16(x); }
+OVERLOAD float16 convert_float16(ulong16 x) { return __ocl_zorv_v8_cvtu64tofprtnf16(x); }
+
+/* cvtu64tofprtn */
+OVERLOAD double convert_double_rte(ulong x) { return __ocl_zorv_v8_cvtu64tofprtn1(x); }
+OVERLOAD double convert_double(ulong x) { return __ocl_zorv_v8_cvtu64tofprtn1(x); }
+OVERLOAD double2 convert_double2_rte(ulong2 x) { return __ocl_zorv_v8_cvtu64tofprtn2(x); }
+OVERLOAD double2 convert_double2(ulong2 x) { return __ocl_zorv_v8_cvtu64tofprtn2(x); }
+OVERLOAD double3 convert_double3_rte(ulong3 x) { return (__ocl_zorv_v8_cvtu64tofprtn3(x.xyzz)).xyz; }
+OVERLOAD double3 convert_double3(ulong3 x) { return (__ocl_zorv_v8_cvtu64tofprtn3(x.xyzz)).xyz; }
+OVERLOAD double4 convert_double4_rte(ulong4 x) { return __ocl_zorv_v8_cvtu64tofprtn4(x); }
+OVERLOAD double4 convert_double4(ulong4 x) { return __ocl_zorv_v8_cvtu64tofprtn4(x); }
+OVERLOAD double8 convert_double8_rte(ulong8 x) { return __ocl_zorv_v8_cvtu64tofprtn8(x); }
+OVERLOAD double8 convert_double8(ulong8 x) { return __ocl_zorv_v8_cvtu64tofprtn8(x); }
+OVERLOAD double16 convert_double16_rte(ulong16 x) { return __ocl_zorv_v8_cvtu64tofprtn16(x); }
+OVERLOAD double16 convert_double16(ulong16 x) { return __ocl_zorv_v8_cvtu64tofprtn16(x); }
+
+/* cvtfptou64rtzsatf */
+OVERLOAD ulong convert_ulong_sat_rtz(float x) { return __ocl_zorv_v8_cvtfptou64rtzsatf1(x); }
+OVERLOAD ulong convert_ulong_sat(float x) { return __ocl_zorv_v8_cvtfptou64rtzsatf1(x); }
+OVERLOAD ulong2 convert_ulong2_sat_rtz(float2 x) { return __ocl_zorv_v8_cvtfptou64rtzsatf2(x); }
+OVERLOAD ulong2 convert_ulong2_sat(float2 x) { return __ocl_zorv_v8_cvtfptou64rtzsatf2(x); }
+OVERLOAD ulong3 convert_ulong3_sat_rtz(float3 x) { return (__ocl_zorv_v8_cvtfptou64rtzsatf3(x.xyzz)).xyz; }
+OVERLOAD ulong3 convert_ulong3_sat(float3 x) { return (__ocl_zorv_v8_cvtfptou64rtzsatf3(x.xyzz)).xyz; }
+OVERLOAD ulong4 convert_ulong4_sat_rtz(float4 x) { return __ocl_zorv_v8_cvtfptou64rtzsatf4(x); }
+OVERLOAD ulong4 convert_ulong4_sat(float4 x) { return __ocl_zorv_v8_cvtfptou64rtzsatf4(x); }
+OVERLOAD ulong8 convert_ulong8_sat_rtz(float8 x) { return __ocl_zorv_v8_cvtfptou64rtzsatf8(x); }
+OVERLOAD ulong8 convert_ulong8_sat(float8 x) { return __ocl_zorv_v8_cvtfptou64rtzsatf8(x); }
+OVERLOAD ulong16 convert_ulong16_sat_rtz(float16 x) { return __ocl_zorv_v8_cvtfptou64rtzsatf16(x); }
+OVERLOAD ulong16 convert_ulong16_sat(float16 x) { return __ocl_zorv_v8_cvtfptou64rtzsatf16(x); }
+
+/* cvtfptou64rtzsat */
+OVERLOAD ulong convert_ulong_sat_rtz(double x) { return __ocl_zorv_v8_cvtfptou64rtzsat1(x); }
+OVERLOAD ulong convert_ulong_sat(double x) { return __ocl_zorv_v8_cvtfptou64rtzsat1(x); }
+OVERLOAD ulong2 convert_ulong2_sat_rtz(double2 x) { return __ocl_zorv_v8_cvtfptou64rtzsat2(x); }
+OVERLOAD ulong2 convert_ulong2_sat(double2 x) { return __ocl_zorv_v8_cvtfptou64rtzsat2(x); }
+OVERLOAD ulong3 convert_ulong3_sat_rtz(double3 x) { return (__ocl_zorv_v8_cvtfptou64rtzsat3(x.xyzz)).xyz; }
+OVERLOAD ulong3 convert_ulong3_sat(double3 x) { return (__ocl_zorv_v8_cvtfptou64rtzsat3(x.xyzz)).xyz; }
+OVERLOAD ulong4 convert_ulong4_sat_rtz(double4 x) { return __ocl_zorv_v8_cvtfptou64rtzsat4(x); }
+OVERLOAD ulong4 convert_ulong4_sat(double4 x) { return __ocl_zorv_v8_cvtfptou64rtzsat4(x); }
+OVERLOAD ulong8 convert_ulong8_sat_rtz(double8 x) { return __ocl_zorv_v8_cvtfptou64rtzsat8(x); }
+OVERLOAD ulong8 convert_ulong8_sat(double8 x) { return __ocl_zorv_v8_cvtfptou64rtzsat8(x); }
+OVERLOAD ulong16 convert_ulong16_sat_rtz(double16 x) { return __ocl_zorv_v8_cvtfptou64rtzsat16(x); }
+OVERLOAD ulong16 convert_ulong16_sat(double16 x) { return __ocl_zorv_v8_cvtfptou64rtzsat16(x); }
+
+/* cvtfptou64rtznosatf */
+OVERLOAD ulong convert_ulong_rtz(float x) { return __ocl_zorv_v8_cvtfptou64rtznosatf1(x); }
+OVERLOAD ulong convert_ulong(float x) { return __ocl_zorv_v8_cvtfptou64rtznosatf1(x); }
+OVERLOAD ulong2 convert_ulong2_rtz(float2 x) { return __ocl_zorv_v8_cvtfptou64rtznosatf2(x); }
+OVERLOAD ulong2 convert_ulong2(float2 x) { return __ocl_zorv_v8_cvtfptou64rtznosatf2(x); }
+OVERLOAD ulong3 convert_ulong3_rtz(float3 x) { return (__ocl_zorv_v8_cvtfptou64rtznosatf3(x.xyzz)).xyz; }
+OVERLOAD ulong3 convert_ulong3(float3 x) { return (__ocl_zorv_v8_cvtfptou64rtznosatf3(x.xyzz)).xyz; }
+OVERLOAD ulong4 convert_ulong4_rtz(float4 x) { return __ocl_zorv_v8_cvtfptou64rtznosatf4(x); }
+OVERLOAD ulong4 convert_ulong4(float4 x) { return __ocl_zorv_v8_cvtfptou64rtznosatf4(x); }
+OVERLOAD ulong8 convert_ulong8_rtz(float8 x) { return __ocl_zorv_v8_cvtfptou64rtznosatf8(x); }
+OVERLOAD ulong8 convert_ulong8(float8 x) { return __ocl_zorv_v8_cvtfptou64rtznosatf8(x); }
+OVERLOAD ulong16 convert_ulong16_rtz(float16 x) { return __ocl_zorv_v8_cvtfptou64rtznosatf16(x); }
+OVERLOAD ulong16 convert_ulong16(float16 x) { return __ocl_zorv_v8_cvtfptou64rtznosatf16(x); }
+
+/* cvtfptou64rtznosat */
+OVERLOAD ulong convert_ulong_rtz(double x) { return __ocl_zorv_v8_cvtfptou64rtznosat1(x); }
+OVERLOAD ulong convert_ulong(double x) { return __ocl_zorv_v8_cvtfptou64rtznosat1(x); }
+OVERLOAD ulong2 convert_ulong2_rtz(double2 x) { return __ocl_zorv_v8_cvtfptou64rtznosat2(x); }
+OVERLOAD ulong2 convert_ulong2(double2 x) { return __ocl_zorv_v8_cvtfptou64rtznosat2(x); }
+OVERLOAD ulong3 convert_ulong3_rtz(double3 x) { return (__ocl_zorv_v8_cvtfptou64rtznosat3(x.xyzz)).xyz; }
+OVERLOAD ulong3 convert_ulong3(double3 x) { return (__ocl_zorv_v8_cvtfptou64rtznosat3(x.xyzz)).xyz; }
+OVERLOAD ulong4 convert_ulong4_rtz(double4 x) { return __ocl_zorv_v8_cvtfptou64rtznosat4(x); }
+OVERLOAD ulong4 convert_ulong4(double4 x) { return __ocl_zorv_v8_cvtfptou64rtznosat4(x); }
+OVERLOAD ulong8 convert_ulong8_rtz(double8 x) { return __ocl_zorv_v8_cvtfptou64rtznosat8(x); }
+OVERLOAD ulong8 convert_ulong8(double8 x) { return __ocl_zorv_v8_cvtfptou64rtznosat8(x); }
+OVERLOAD ulong16 convert_ulong16_rtz(double16 x) { return __ocl_zorv_v8_cvtfptou64rtznosat16(x); }
+OVERLOAD ulong16 convert_ulong16(double16 x) { return __ocl_zorv_v8_cvtfptou64rtznosat16(x); }
+
+/* cvtu64tofprtzf */
+OVERLOAD float convert_float_rtz(ulong x) { return __ocl_zorv_v8_cvtu64tofprtzf1(x); }
+OVERLOAD float2 convert_float2_rtz(ulong2 x) { return __ocl_zorv_v8_cvtu64tofprtzf2(x); }
+OVERLOAD float3 convert_float3_rtz(ulong3 x) { return (__ocl_zorv_v8_cvtu64tofprtzf3(x.xyzz)).xyz; }
+OVERLOAD float4 convert_float4_rtz(ulong4 x) { return __ocl_zorv_v8_cvtu64tofprtzf4(x); }
+OVERLOAD float8 convert_float8_rtz(ulong8 x) { return __ocl_zorv_v8_cvtu64tofprtzf8(x); }
+OVERLOAD float16 convert_float16_rtz(ulong16 x) { return __ocl_zorv_v8_cvtu64tofprtzf16(x); }
+
+/* cvtu64tofprtz */
+OVERLOAD double convert_double_rtz(ulong x) { return __ocl_zorv_v8_cvtu64tofprtz1(x); }
+OVERLOAD double2 convert_double2_rtz(ulong2 x) { return __ocl_zorv_v8_cvtu64tofprtz2(x); }
+OVERLOAD double3 convert_double3_rtz(ulong3 x) { return (__ocl_zorv_v8_cvtu64tofprtz3(x.xyzz)).xyz; }
+OVERLOAD double4 convert_double4_rtz(ulong4 x) { return __ocl_zorv_v8_cvtu64tofprtz4(x); }
+OVERLOAD double8 convert_double8_rtz(ulong8 x) { return __ocl_zorv_v8_cvtu64tofprtz8(x); }
+OVERLOAD double16 convert_double16_rtz(ulong16 x) { return __ocl_zorv_v8_cvtu64tofprtz16(x); }
+
+/* cvtfptou64upsatf */
+OVERLOAD ulong convert_ulong_sat_rtp(float x) { return __ocl_zorv_v8_cvtfptou64upsatf1(x); }
+OVERLOAD ulong2 convert_ulong2_sat_rtp(float2 x) { return __ocl_zorv_v8_cvtfptou64upsatf2(x); }
+OVERLOAD ulong3 convert_ulong3_sat_rtp(float3 x) { return (__ocl_zorv_v8_cvtfptou64upsatf3(x.xyzz)).xyz; }
+OVERLOAD ulong4 convert_ulong4_sat_rtp(float4 x) { return __ocl_zorv_v8_cvtfptou64upsatf4(x); }
+OVERLOAD ulong8 convert_ulong8_sat_rtp(float8 x) { return __ocl_zorv_v8_cvtfptou64upsatf8(x); }
+OVERLOAD ulong16 convert_ulong16_sat_rtp(float16 x) { return __ocl_zorv_v8_cvtfptou64upsatf16(x); }
+
+/* cvtfptou64upsat */
+OVERLOAD ulong convert_ulong_sat_rtp(double x) { return __ocl_zorv_v8_cvtfptou64upsat1(x); }
+OVERLOAD ulong2 convert_ulong2_sat_rtp(double2 x) { return __ocl_zorv_v8_cvtfptou64upsat2(x); }
+OVERLOAD ulong3 convert_ulong3_sat_rtp(double3 x) { return (__ocl_zorv_v8_cvtfptou64upsat3(x.xyzz)).xyz; }
+OVERLOAD ulong4 convert_ulong4_sat_rtp(double4 x) { return __ocl_zorv_v8_cvtfptou64upsat4(x); }
+OVERLOAD ulong8 convert_ulong8_sat_rtp(double8 x) { return __ocl_zorv_v8_cvtfptou64upsat8(x); }
+OVERLOAD ulong16 convert_ulong16_sat_rtp(double16 x) { return __ocl_zorv_v8_cvtfptou64upsat16(x); }
+
+/* cvtfptou64upnosatf */
+OVERLOAD ulong convert_ulong_rtp(float x) { return __ocl_zorv_v8_cvtfptou64upnosatf1(x); }
+OVERLOAD ulong2 convert_ulong2_rtp(float2 x) { return __ocl_zorv_v8_cvtfptou64upnosatf2(x); }
+OVERLOAD ulong3 convert_ulong3_rtp(float3 x) { return (__ocl_zorv_v8_cvtfptou64upnosatf3(x.xyzz)).xyz; }
+OVERLOAD ulong4 convert_ulong4_rtp(float4 x) { return __ocl_zorv_v8_cvtfptou64upnosatf4(x); }
+OVERLOAD ulong8 convert_ulong8_rtp(float8 x) { return __ocl_zorv_v8_cvtfptou64upnosatf8(x); }
+OVERLOAD ulong16 convert_ulong16_rtp(float16 x) { return __ocl_zorv_v8_cvtfptou64upnosatf16(x); }
+
+/* cvtfptou64upnosat */
+OVERLOAD ulong convert_ulong_rtp(double x) { return __ocl_zorv_v8_cvtfptou64upnosat1(x); }
+OVERLOAD ulong2 convert_ulong2_rtp(double2 x) { return __ocl_zorv_v8_cvtfptou64upnosat2(x); }
+OVERLOAD ulong3 convert_ulong3_rtp(double3 x) { return (__ocl_zorv_v8_cvtfptou64upnosat3(x.xyzz)).xyz; }
+OVERLOAD ulong4 convert_ulong4_rtp(double4 x) { return __ocl_zorv_v8_cvtfptou64upnosat4(x); }
+OVERLOAD ulong8 convert_ulong8_rtp(double8 x) { return __ocl_zorv_v8_cvtfptou64upnosat8(x); }
+OVERLOAD ulong16 convert_ulong16_rtp(double16 x) { return __ocl_zorv_v8_cvtfptou64upnosat16(x); }
+
+/* cvtu64tofpupf */
+OVERLOAD float convert_float_rtp(ulong x) { return __ocl_zorv_v8_cvtu64tofpupf1(x); }
+OVERLOAD float2 convert_float2_rtp(ulong2 x) { return __ocl_zorv_v8_cvtu64tofpupf2(x); }
+OVERLOAD float3 convert_float3_rtp(ulong3 x) { return (__ocl_zorv_v8_cvtu64tofpupf3(x.xyzz)).xyz; }
+OVERLOAD float4 convert_float4_rtp(ulong4 x) { return __ocl_zorv_v8_cvtu64tofpupf4(x); }
+OVERLOAD float8 convert_float8_rtp(ulong8 x) { return __ocl_zorv_v8_cvtu64tofpupf8(x); }
+OVERLOAD float16 convert_float16_rtp(ulong16 x) { return __ocl_zorv_v8_cvtu64tofpupf16(x); }
+
+/* cvtu64tofpup */
+OVERLOAD double convert_double_rtp(ulong x) { return __ocl_zorv_v8_cvtu64tofpup1(x); }
+OVERLOAD double2 convert_double2_rtp(ulong2 x) { return __ocl_zorv_v8_cvtu64tofpup2(x); }
+OVERLOAD double3 convert_double3_rtp(ulong3 x) { return (__ocl_zorv_v8_cvtu64tofpup3(x.xyzz)).xyz; }
+OVERLOAD double4 convert_double4_rtp(ulong4 x) { return __ocl_zorv_v8_cvtu64tofpup4(x); }
+OVERLOAD double8 convert_double8_rtp(ulong8 x) { return __ocl_zorv_v8_cvtu64tofpup8(x); }
+OVERLOAD double16 convert_double16_rtp(ulong16 x) { return __ocl_zorv_v8_cvtu64tofpup16(x); }
+
+/* cvtfptou64downsatf */
+OVERLOAD ulong convert_ulong_sat_rtn(float x) { return __ocl_zorv_v8_cvtfptou64downsatf1(x); }
+OVERLOAD ulong2 convert_ulong2_sat_rtn(float2 x) { return __ocl_zorv_v8_cvtfptou64downsatf2(x); }
+OVERLOAD ulong3 convert_ulong3_sat_rtn(float3 x) { return (__ocl_zorv_v8_cvtfptou64downsatf3(x.xyzz)).xyz; }
+OVERLOAD ulong4 convert_ulong4_sat_rtn(float4 x) { return __ocl_zorv_v8_cvtfptou64downsatf4(x); }
+OVERLOAD ulong8 convert_ulong8_sat_rtn(float8 x) { return __ocl_zorv_v8_cvtfptou64downsatf8(x); }
+OVERLOAD ulong16 convert_ulong16_sat_rtn(float16 x) { return __ocl_zorv_v8_cvtfptou64downsatf16(x); }
+
+/* cvtfptou64downsat */
+OVERLOAD ulong convert_ulong_sat_rtn(double x) { return __ocl_zorv_v8_cvtfptou64downsat1(x); }
+OVERLOAD ulong2 convert_ulong2_sat_rtn(double2 x) { return __ocl_zorv_v8_cvtfptou64downsat2(x); }
+OVERLOAD ulong3 convert_ulong3_sat_rtn(double3 x) { return (__ocl_zorv_v8_cvtfptou64downsat3(x.xyzz)).xyz; }
+OVERLOAD ulong4 convert_ulong4_sat_rtn(double4 x) { return __ocl_zorv_v8_cvtfptou64downsat4(x); }
+OVERLOAD ulong8 convert_ulong8_sat_rtn(double8 x) { return __ocl_zorv_v8_cvtfptou64downsat8(x); }
+OVERLOAD ulong16 convert_ulong16_sat_rtn(double16 x) { return __ocl_zorv_v8_cvtfptou64downsat16(x); }
+
+/* cvtfptou64downnosatf */
+OVERLOAD ulong convert_ulong_rtn(float x) { return __ocl_zorv_v8_cvtfptou64downnosatf1(x); }
+OVERLOAD ulong2 convert_ulong2_rtn(float2 x) { return __ocl_zorv_v8_cvtfptou64downnosatf2(x); }
+OVERLOAD ulong3 convert_ulong3_rtn(float3 x) { return (__ocl_zorv_v8_cvtfptou64downnosatf3(x.xyzz)).xyz; }
+OVERLOAD ulong4 convert_ulong4_rtn(float4 x) { return __ocl_zorv_v8_cvtfptou64downnosatf4(x); }
+OVERLOAD ulong8 convert_ulong8_rtn(float8 x) { return __ocl_zorv_v8_cvtfptou64downnosatf8(x); }
+OVERLOAD ulong16 convert_ulong16_rtn(float16 x) { return __ocl_zorv_v8_cvtfptou64downnosatf16(x); }
+
+/* cvtfptou64downnosat */
+OVERLOAD ulong convert_ulong_rtn(double x) { return __ocl_zorv_v8_cvtfptou64downnosat1(x); }
+OVERLOAD ulong2 convert_ulong2_rtn(double2 x) { return __ocl_zorv_v8_cvtfptou64downnosat2(x); }
+OVERLOAD ulong3 convert_ulong3_rtn(double3 x) { return (__ocl_zorv_v8_cvtfptou64downnosat3(x.xyzz)).xyz; }
+OVERLOAD ulong4 convert_ulong4_rtn(double4 x) { return __ocl_zorv_v8_cvtfptou64downnosat4(x); }
+OVERLOAD ulong8 convert_ulong8_rtn(double8 x) { return __ocl_zorv_v8_cvtfptou64downnosat8(x); }
+OVERLOAD ulong16 convert_ulong16_rtn(double16 x) { return __ocl_zorv_v8_cvtfptou64downnosat16(x); }
+
+/* cvtu64tofpdownf */
+OVERLOAD float convert_float_rtn(ulong x) { return __ocl_zorv_v8_cvtu64tofpdownf1(x); }
+OVERLOAD float2 convert_float2_rtn(ulong2 x) { return __ocl_zorv_v8_cvtu64tofpdownf2(x); }
+OVERLOAD float3 convert_float3_rtn(ulong3 x) { return (__ocl_zorv_v8_cvtu64tofpdownf3(x.xyzz)).xyz; }
+OVERLOAD float4 convert_float4_rtn(ulong4 x) { return __ocl_zorv_v8_cvtu64tofpdownf4(x); }
+OVERLOAD float8 convert_float8_rtn(ulong8 x) { return __ocl_zorv_v8_cvtu64tofpdownf8(x); }
+OVERLOAD float16 convert_float16_rtn(ulong16 x) { return __ocl_zorv_v8_cvtu64tofpdownf16(x); }
+
+/* cvtu64tofpdown */
+OVERLOAD double convert_double_rtn(ulong x) { return __ocl_zorv_v8_cvtu64tofpdown1(x); }
+OVERLOAD double2 convert_double2_rtn(ulong2 x) { return __ocl_zorv_v8_cvtu64tofpdown2(x); }
+OVERLOAD double3 convert_double3_rtn(ulong3 x) { return (__ocl_zorv_v8_cvtu64tofpdown3(x.xyzz)).xyz; }
+OVERLOAD double4 convert_double4_rtn(ulong4 x) { return __ocl_zorv_v8_cvtu64tofpdown4(x); }
+OVERLOAD double8 convert_double8_rtn(ulong8 x) { return __ocl_zorv_v8_cvtu64tofpdown8(x); }
+OVERLOAD double16 convert_double16_rtn(ulong16 x) { return __ocl_zorv_v8_cvtu64tofpdown16(x); }
+
+/* The same names from the other types, which take no call. */
+#define ROUNDINGS(name, to, from, value) \
+    OVERLOAD to name(from x) { return value; } \
+    OVERLOAD to name##_rte(from x) { return value; } \
+    OVERLOAD to name##_rtz(from x) { return value; } \
+    OVERLOAD to name##_rtp(from x) { return value; } \
+    OVERLOAD to name##_rtn(from x) { return value; }
+#define NEAREST(name, to, from, value) \
+    OVERLOAD to name(from x) { return value; } \
+    OVERLOAD to name##_rte(from x) { return value; }
+#define PLAIN(to, from) ROUNDINGS(convert_##to, to, from, __builtin_convertvector(x, to))
+#define ROUNDED(to, from) NEAREST(convert_##to, to, from, __builtin_convertvector(x, to))
+#define SCALAR_PLAIN(to, from) ROUNDINGS(convert_##to, to, from, (to)x)
+#define SCALAR_ROUNDED(to, from) NEAREST(convert_##to, to, from, (to)x)
+#define CLAMPED(low, high) (x < low ? low : x > high ? high : x)
+#define SATURATED(to, from, low, high) \
+    ROUNDINGS(convert_##to##_sat, to, from, __builtin_convertvector(CLAMPED((from)(low), (from)(high)), to))
+#define SCALAR_SATURATED(to, from, low, high) \
+    ROUNDINGS(convert_##to##_sat, to, from, (to)CLAMPED((from)(low), (from)(high)))
+#define WIDTHS(kind, to, from, ...) \
+    SCALAR_##kind(to, from, ##__VA_ARGS__) \
+    kind(to##2, from##2, ##__VA_ARGS__) \
+    kind(to##3, from##3, ##__VA_ARGS__) \
+    kind(to##4, from##4, ##__VA_ARGS__) \
+    kind(to##8, from##8, ##__VA_ARGS__) \
+    kind(to##16, from##16, ##__VA_ARGS__)
+WIDTHS(PLAIN, double, char)
+WIDTHS(PLAIN, double, uchar)
+WIDTHS(PLAIN, double, short)
+WIDTHS(PLAIN, double, ushort)
+WIDTHS(PLAIN, double, double)
+WIDTHS(PLAIN, double, float)
+WIDTHS(PLAIN, float, char)
+WIDTHS(PLAIN, float, uchar)
+WIDTHS(PLAIN, float, short)
+WIDTHS(PLAIN, float, ushort)
+WIDTHS(PLAIN, float, float)
+WIDTHS(ROUNDED, float, double)
+WIDTHS(PLAIN, int, char)
+WIDTHS(PLAIN, int, uchar)
+WIDTHS(PLAIN, int, short)
+WIDTHS(PLAIN, int, ushort)
+WIDTHS(PLAIN, int, int)
+WIDTHS(PLAIN, int, uint)
+WIDTHS(PLAIN, int, long)
+WIDTHS(PLAIN, int, ulong)
+WIDTHS(SATURATED, int, char, CHAR_MIN, CHAR_MAX)
+WIDTHS(SATURATED, int, uchar, 0, UCHAR_MAX)
+WIDTHS(SATURATED, int, short, SHRT_MIN, SHRT_MAX)
+WIDTHS(SATURATED, int, ushort, 0, USHRT_MAX)
+WIDTHS(SATURATED, int, int, INT_MIN, INT_MAX)
+WIDTHS(SATURATED, int, uint, 0, INT_MAX)
+WIDTHS(SATURATED, int, long, INT_MIN, INT_MAX)
+WIDTHS(SATURATED, int, ulong, 0, INT_MAX)
+WIDTHS(PLAIN, long, char)
+WIDTHS(PLAIN, long, uchar)
+WIDTHS(PLAIN, long, short)
+WIDTHS(PLAIN, long, ushort)
+WIDTHS(PLAIN, long, int)
+WIDTHS(PLAIN, long, uint)
+WIDTHS(PLAIN, long, long)
+WIDTHS(PLAIN, long, ulong)
+WIDTHS(SATURATED, long, char, CHAR_MIN, CHAR_MAX)
+WIDTHS(SATURATED, long, uchar, 0, UCHAR_MAX)
+WIDTHS(SATURATED, long, short, SHRT_MIN, SHRT_MAX)
+WIDTHS(SATURATED, long, ushort, 0, USHRT_MAX)
+WIDTHS(SATURATED, long, int, INT_MIN, INT_MAX)
+WIDTHS(SATURATED, long, uint, 0, UINT_MAX)
+WIDTHS(SATURATED, long, long, LONG_MIN, LONG_MAX)
+WIDTHS(SATURATED, long, ulong, 0, LONG_MAX)
+WIDTHS(PLAIN, uint, char)
+WIDTHS(PLAIN, uint, uchar)
+WIDTHS(PLAIN, uint, short)
+WIDTHS(PLAIN, uint, ushort)
+WIDTHS(PLAIN, uint, int)
+WIDTHS(PLAIN, uint, uint)
+WIDTHS(PLAIN, uint, long)
+WIDTHS(PLAIN, uint, ulong)
+WIDTHS(SATURATED, uint, char, 0, CHAR_MAX)
+WIDTHS(SATURATED, uint, uchar, 0, UCHAR_MAX)
+WIDTHS(SATURATED, uint, short, 0, SHRT_MAX)
+WIDTHS(SATURATED, uint, ushort, 0, USHRT_MAX)
+WIDTHS(SATURATED, uint, int, 0, INT_MAX)
+WIDTHS(SATURATED, uint, uint, 0, UINT_MAX)
+WIDTHS(SATURATED, uint, long, 0, UINT_MAX)
+WIDTHS(SATURATED, uint, ulong, 0, UINT_MAX)
+WIDTHS(PLAIN, ulong, char)
+WIDTHS(PLAIN, ulong, uchar)
+WIDTHS(PLAIN, ulong, short)
+WIDTHS(PLAIN, ulong, ushort)
+WIDTHS(PLAIN, ulong, int)
+WIDTHS(PLAIN, ulong, uint)
+WIDTHS(PLAIN, ulong, long)
+WIDTHS(PLAIN, ulong, ulong)
+WIDTHS(SATURATED, ulong, char, 0, CHAR_MAX)
+WIDTHS(SATURATED, ulong, uchar, 0, UCHAR_MAX)
+WIDTHS(SATURATED, ulong, short, 0, SHRT_MAX)
+WIDTHS(SATURATED, ulong, ushort, 0, USHRT_MAX)
+WIDTHS(SATURATED, ulong, int, 0, INT_MAX)
+WIDTHS(SATURATED, ulong, uint, 0, UINT_MAX)
+WIDTHS(SATURATED, ulong, long, 0, LONG_MAX)
+WIDTHS(SATURATED, ulong, ulong, 0, ULONG_MAX)
+#undef ROUNDINGS
+#undef NEAREST
+#undef PLAIN
+#undef ROUNDED
+#undef SCALAR_PLAIN
+#undef SCALAR_ROUNDED
+#undef CLAMPED
+#undef SATURATED
+#undef SCALAR_SATURATED
+#undef WIDTHS
+
 #undef OVERLOAD
 
 #endif

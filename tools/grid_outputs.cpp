@@ -93,7 +93,9 @@ Operation operation_of(const Family& family) {
 About about(const Family& family) {
     if (auto found = conversions.find(family.base); found != conversions.end()) {
         const Conversion& c = found->second;
-        if (!c.to_integer) return {"Every integer has a result; 0 gives +0.", "Exact pieces, one rounded sum."};
+        if (!c.to_integer)
+            return {"Every integer has a result; 0 gives +0.",
+                    "Exact pieces, one rounded sum, a step on its bits where the rounding asks for one."};
         bool is_unsigned = c.integer[0] == 'u';
         if (c.saturation == "sat")
             return {c.integer == "u32" ? "Clamped to the integer's range; NaN gives all ones, or 0 if its sign is set."
@@ -182,7 +184,9 @@ void wrapped(const string& prefix, const string& text, size_t columns = 110) {
     std::puts(line.c_str());
 }
 
-string error_text(double bound) {
+string error_text(const Family& family) {
+    double bound = family.bound;
+    if (bound == 0 && conversions.contains(family.base)) return "Error: none, the value rounded as told.";
     if (bound == 0) return "Error: none, the result is exact.";
     if (bound == 0.5) return "Error: 0.5 ulp, correctly rounded.";
     if (bound > 0x1p100) return "Error: each step is rounded; where they cancel, no multiple of the ulp bounds it.";
@@ -255,7 +259,7 @@ void print_header() {
         std::puts("");
         wrapped("/*", family.name() + ": " + operation_of(family).what + ". " + unit_text(family) + lanes_text(family));
         wrapped(" *", about_it.special);
-        wrapped(" *", error_text(family.bound));
+        wrapped(" *", error_text(family));
         wrapped(" *", about_it.method + " */");
         for (int width : widths) std::puts(declaration(family, width).c_str());
     }
