@@ -152,6 +152,16 @@ ALWAYS_INLINE Lane in_register(Lane lane) {
     return lane;
 }
 
+// Likewise a 64-bit integer, which the caller has stored as two halves, by one load for each half.
+template <class Unit>
+ALWAYS_INLINE Unit unit_from_halves(uint64_t lane) {
+    __m128i low = _mm_cvtsi32_si128(static_cast<int>(lane));
+    __m128i high = _mm_cvtsi32_si128(static_cast<int>(lane >> 32));
+    asm("" : "+x"(low), "+x"(high));
+    __m128i once = _mm_unpacklo_epi32(low, high);
+    return reinterpret_cast<Unit>(_mm_unpacklo_epi64(once, once));
+}
+
 // One unit, from `first` on. Short vectors are copied into the idle lanes, which keeps those lanes busy with a
 // value of the same class as a live one.
 template <class Unit, int width, int first>
@@ -159,7 +169,9 @@ ALWAYS_INLINE Unit take_unit(Vector<typename Layout<Unit>::Lane, width> vector) 
     constexpr int w = room<width>;
     if constexpr (width == 1) {
         auto lane = in_register(vector);
-        if constexpr (Layout<Unit>::lanes == 4)
+        if constexpr (std::is_integral_v<decltype(lane)> && sizeof(lane) == 8)
+            return unit_from_halves<Unit>(static_cast<uint64_t>(lane));
+        else if constexpr (Layout<Unit>::lanes == 4)
             return Unit{lane, lane, lane, lane};
         else
             return Unit{lane, lane};
