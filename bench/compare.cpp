@@ -63,7 +63,7 @@ Pass pass_of(const std::string& name, int width) {
 }  // namespace
 
 Comparison::Comparison(const grid::Family& family, int width, Set set)
-    : workload_(family, set), clean_(family, Set::in_range), width_(width) {
+    : workload_(family, set), clean_(family, Set::in_range) {
     auto error_of = [&](Pass pass) {
         workload_.clear_results();
         pass(workload_.arrays());
@@ -141,11 +141,6 @@ std::map<std::string, double> Comparison::ratios() const {
     double own = median(candidates_[0].times);
     for (const Candidate& candidate : candidates_) ratios[candidate.column] = median(candidate.times) / own;
     return ratios;
-}
-
-double Comparison::nanoseconds_per_vector() const {
-    size_t vectors = elements / static_cast<size_t>(grid::room(width_));
-    return median(candidates_[0].times) * 1e9 / static_cast<double>(vectors);
 }
 
 std::string Comparison::fastest_rival() const {

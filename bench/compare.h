@@ -26,7 +26,6 @@ class Comparison {
     double round();
     // After the rounds: the median time of each candidate over the median of ours.
     std::map<std::string, double> ratios() const;
-    double nanoseconds_per_vector() const;
     // The column of the fastest peer with an error of 4 ulp at most; empty without one.
     std::string fastest_rival() const;
 
@@ -43,7 +42,6 @@ class Comparison {
     void calibrate();
 
     Workload workload_, clean_;
-    int width_;
     std::string fault_;
     std::vector<std::string> dismissed_;
     std::vector<Candidate> candidates_;  // ours first
