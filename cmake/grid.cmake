@@ -1,5 +1,5 @@
 # The grid (include/grid.def) is written once. grid_outputs includes it and prints what is derived: the two public
-# headers, which are committed and compared in the tests, and the linker's version script.
+# headers and the README's table, which are committed and compared in the tests, and the linker's version script.
 add_executable(grid_outputs tools/grid_outputs.cpp)
 target_include_directories(grid_outputs PRIVATE ${PROJECT_SOURCE_DIR})
 
@@ -15,7 +15,9 @@ add_custom_target(version_script_file DEPENDS ${version_script})
 add_custom_target(headers
   COMMAND grid_outputs header > ${PROJECT_SOURCE_DIR}/include/ocl_zorv_v8.h
   COMMAND grid_outputs builtins > ${PROJECT_SOURCE_DIR}/include/ocl_zorv_v8_builtins.h
-  COMMENT "Public headers from the grid"
+  COMMAND grid_outputs readme < ${PROJECT_SOURCE_DIR}/README.md > ${PROJECT_BINARY_DIR}/README.md
+  COMMAND ${CMAKE_COMMAND} -E copy ${PROJECT_BINARY_DIR}/README.md ${PROJECT_SOURCE_DIR}/README.md
+  COMMENT "Public headers and the README's table from the grid"
   VERBATIM)
 
 # The names of the families that stand, known while configuring: the grid is preprocessed and read.

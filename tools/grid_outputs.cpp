@@ -4,10 +4,14 @@
 //   grid_outputs builtins        include/ocl_zorv_v8_builtins.h
 //   grid_outputs version_script  the linker's list of exports
 //   grid_outputs families        the README's table
+//   grid_outputs readme          README.md, given as standard input, with that table renewed
 #include <algorithm>
+#include <cctype>
+#include <cmath>
 #include <cstdio>
 #include <cstdlib>
 #include <cstring>
+#include <iostream>
 #include <map>
 #include <string>
 #include <vector>
@@ -446,12 +450,59 @@ void print_version_script() {
     std::puts("  local: *;\n};");
 }
 
+// One row for each operation: its error in ulp at each precision and class.
 void print_families() {
-    std::printf("%zu of %zu families stand.\n\n", families.size(), families.size() + static_cast<size_t>(planned));
-    std::puts("| family | what it computes | error, ulp |\n|---|---|---|");
+    std::vector<string> bases;
+    std::map<string, std::map<string, double>> bounds;  // by base, then by "float_ accurate" and so on
+    size_t standing_conversions = 0;
     for (const Family& family : families) {
-        if (conversions.contains(family.base)) continue;
-        std::printf("| `%s` | %s | %g |\n", family.name().c_str(), operation_of(family).what.c_str(), family.bound);
+        if (conversions.contains(family.base)) {
+            ++standing_conversions;
+            continue;
+        }
+        if (!bounds.contains(family.base)) bases.push_back(family.base);
+        bounds[family.base][family.precision + " " + family.accuracy_class] = family.bound;
+    }
+    if (planned != 0)
+        std::printf("%zu of %zu families stand.\n\n", families.size(), families.size() + static_cast<size_t>(planned));
+    std::puts("| operation | computes | float | double | float, native | double, native |");
+    std::puts("|---|---|---|---|---|---|");
+    for (const string& base : bases) {
+        string what = operations.at(base).what;
+        what[0] = static_cast<char>(std::tolower(static_cast<unsigned char>(what[0])));
+        for (size_t at = 0; (at = what.find('|', at)) != string::npos; at += 2) what.insert(at, "\\");
+        std::printf("| `%s` | %s |", base.c_str(), what.c_str());
+        for (const char* column : {"float_ accurate", "double_ accurate", "float_ native", "double_ native"}) {
+            auto bound = bounds[base].find(column);
+            if (bound == bounds[base].end())
+                std::printf(" |");
+            else if (bound->second == 0)
+                std::printf(" exact |");
+            else if (std::isinf(bound->second))
+                std::printf(" cancels |");
+            else
+                std::printf(" %g |", bound->second);
+        }
+        std::puts("");
+    }
+    if (standing_conversions != 0)
+        std::printf(
+            "\nBeside these stand %zu conversions between `float` or `double` and `int`, `uint`, `long` or `ulong`, in "
+            "four\nroundings; to integers with and without saturation. Their errors stand in "
+            "[the header](include/ocl_zorv_v8.h).\n",
+            standing_conversions);
+}
+
+// The README from standard input, its table of families renewed.
+void print_readme() {
+    bool in_table = false;
+    for (string line; std::getline(std::cin, line);) {
+        if (line == "<!-- end of families -->") in_table = false;
+        if (!in_table) std::puts(line.c_str());
+        if (line.starts_with("<!-- families")) {
+            in_table = true;
+            print_families();
+        }
     }
 }
 
@@ -467,6 +518,8 @@ int main(int count, char** arguments) {
         print_version_script();
     else if (what == "families")
         print_families();
+    else if (what == "readme")
+        print_readme();
     else
-        return std::fputs("usage: grid_outputs header|builtins|version_script|families\n", stderr), 2;
+        return std::fputs("usage: grid_outputs header|builtins|version_script|families|readme\n", stderr), 2;
 }
