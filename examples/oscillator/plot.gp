@@ -7,9 +7,9 @@ set format x "10^{%L}"
 set format y "10^{%L}"
 set xlabel "argument, radians"
 set ylabel "error, ulp"
-set yrange [1e-4:1e20]
+set yrange [1e-4:1e10]
 set grid
 set key top left
-plot "oscillator.dat" using 1:($3 < 1e30 ? $3 : 1e20) with points pt 7 ps 0.5 lc rgb "#d95f02" \
+plot "oscillator.dat" using 1:($3 < 1e10 ? $3 : 1e10) with points pt 7 ps 0.5 lc rgb "#d95f02" \
        title "argument reduced by the double nearest to 2 pi", \
-     "oscillator.dat" using 1:2 with points pt 7 ps 0.5 lc rgb "#1b5e9e" title "sin of this library, double4"
+     "oscillator.dat" using 1:2 with points pt 7 ps 0.5 lc rgb "#1b5e9e" title "sin of this library, float4"
