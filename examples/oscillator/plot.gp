@@ -9,7 +9,7 @@ set xlabel "argument, radians"
 set ylabel "error, ulp"
 set yrange [1e-4:1e10]
 set grid
-set key top left
+set key outside top center horizontal
 plot "oscillator.dat" using 1:($3 < 1e10 ? $3 : 1e10) with points pt 7 ps 0.5 lc rgb "#d95f02" \
-       title "argument reduced by the double nearest to 2 pi", \
+       title "argument reduced by the float nearest to 2 pi", \
      "oscillator.dat" using 1:2 with points pt 7 ps 0.5 lc rgb "#1b5e9e" title "sin of this library, float4"
