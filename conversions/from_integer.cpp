@@ -6,7 +6,7 @@
 // place. A step is an integer operation on the bits, which carries across powers of two by itself.
 //
 //   u32, i32 to float      two pieces of 23 bits
-//   u64, i64 to double     two pieces of 52 bits
+//   u64, i64 to double     two pieces of 52 bits; to nearest, the two halves as they stand
 //   u64, i64 to float      three pieces of 23 bits
 //   u32, i32 to double     exact, all roundings alike
 #include "data/conversions.h"
@@ -206,6 +206,18 @@ struct NearestOfThree {
     }
 };
 
+// To nearest, of the two words of a lane. The high one is signed by turning its sign bit, which makes it larger by
+// 2^31; its sum with what that and the magic numbers are too large is exact, and the other one is rounded.
+template <class Units, const auto& record>
+struct NearestOfTwoWords {
+    static D2 main(Units x) {
+        const auto& data = in_memory(record);
+        D2 low = as_double((unit_cast<L2>(x) & data.low_word) | data.low_magic);
+        D2 high = as_double(signed_lanes(unit_cast<UL2>(x) >> 32) ^ data.high_magic);
+        return (high - data.excess) + low;
+    }
+};
+
 // The word under the magic number's high word, less the magic number.
 struct u32_to_double {
     static D4 main(U4 x) {
@@ -232,6 +244,11 @@ struct ThreePieces : SumOfPieces<Units, three_pieces_data, Rounding> {};
 template <class Units>
 struct ThreePieces<Units, rtn> : NearestOfThree<Units> {};
 
+template <class Units, const auto& words_record, class Rounding>
+struct Words : SumOfPieces<Units, two_pieces_double_data, Rounding> {};
+template <class Units, const auto& words_record>
+struct Words<Units, words_record, rtn> : NearestOfTwoWords<Units, words_record> {};
+
 #define NAME_float_(base) base##f
 #define NAME_double_(base) base
 #define KERNEL_i32_float_(rounding) SumOfPieces<I4, two_pieces_float_data, rounding>
@@ -240,8 +257,8 @@ struct ThreePieces<Units, rtn> : NearestOfThree<Units> {};
 #define KERNEL_u64_float_(rounding) ThreePieces<UL4, rounding>
 #define KERNEL_i32_double_(rounding) i32_to_double
 #define KERNEL_u32_double_(rounding) u32_to_double
-#define KERNEL_i64_double_(rounding) SumOfPieces<L2, two_pieces_double_data, rounding>
-#define KERNEL_u64_double_(rounding) SumOfPieces<UL2, two_pieces_double_data, rounding>
+#define KERNEL_i64_double_(rounding) Words<L2, signed_words_data, rounding>
+#define KERNEL_u64_double_(rounding) Words<UL2, unsigned_words_data, rounding>
 #define FROM_INTEGER(base, precision, source, rounding) \
     using NAME_##precision(base) = KERNEL_##source##_##precision(rounding);
 #include "include/grid.def"

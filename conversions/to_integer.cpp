@@ -101,113 +101,74 @@ struct ToU32_sat {
     }
 };
 
-// ---- 64-bit lanes beside their sources: two units beside a unit of floats, one beside a unit of doubles. ---
+// ---- The conversion stage, 64-bit targets. -----------------------------------------------------------------
+//
+// There is no hardware conversion, and a shift by each lane's exponent would take the lanes of a unit one by one.
+// Instead an integral y is cut in two by magic powers of two, as the conversions from integers put theirs together:
+// a multiple of 2^32, and a rest of 2^31 at most, each of which then stands in the low bits of its sum with a magic
+// number, in two's complement and so for either sign.
 
-// Masks and unsigned values of source lanes, in 64-bit lanes.
+// The lanes as doubles: two units beside a unit of floats. Exact.
+D4 doubles(F4 y) {
+    return {__builtin_convertvector(__builtin_shufflevector(y, y, 0, 1), D2),
+            __builtin_convertvector(__builtin_shufflevector(y, y, 2, 3), D2)};
+}
+D2 doubles(D2 y) { return y; }
+
+// The integer of an integral y, modulo 2^64, for |y| <= 2^64. What the low magic number's own bits add to the sum,
+// the high one has taken off.
+L2 integer(D2 y, const IntegerMagic& data) {
+    D2 high = y + data.high;
+    D2 rest = y - (high - data.high);
+    return (bits(high) << 32) + bits(rest + data.low);
+}
+L4 integer(D4 y, const IntegerMagic& data) { return {integer(y.low, data), integer(y.high, data)}; }
+
+// Masks of source lanes, in 64-bit lanes.
 L4 widen_mask(I4 mask) { return {double_low(mask), double_high(mask)}; }
 L2 widen_mask(L2 mask) { return mask; }
-L4 widen(I4 x) {
-    constexpr I4 zero = {};
-    return {from_halves(__builtin_shufflevector(x, zero, 0, 4, 1, 5)),
-            from_halves(__builtin_shufflevector(x, zero, 2, 6, 3, 7))};
-}
-L2 widen(L2 x) { return x; }
-L4 widen_signed(I4 x) {
-    I4 sign = x >> 31;
-    return {from_halves(__builtin_shufflevector(x, sign, 0, 4, 1, 5)),
-            from_halves(__builtin_shufflevector(x, sign, 2, 6, 3, 7))};
-}
-L2 widen_signed(L2 x) { return x; }
 
-template <class Step, class... Rest>
-L2 each_unit(Step step, L2 first, Rest... rest) {
-    return step(first, rest...);
-}
-template <class Step, class... Rest>
-L4 each_unit(Step step, L4 first, Rest... rest) {
-    return {step(first.low, rest.low...), step(first.high, rest.high...)};
-}
+L2 add(L2 x, L2 y) { return x + y; }
+L4 add(L4 x, L4 y) { return {x.low + y.low, x.high + y.high}; }
+UL2 unsigned_units(L2 x) { return unsigned_lanes(x); }
+UL4 unsigned_units(L4 x) { return {unsigned_lanes(x.low), unsigned_lanes(x.high)}; }
 
-// Each lane shifted left by its own count, of 64 bits; counts above 63 give 0. The unit shifts both lanes by one
-// count, so there is a shift for each lane.
-L2 shift_each_left(L2 x, L2 count) {
-    L2 second_count = __builtin_shufflevector(count, count, 1, 1);
-    L2 first = unit_cast<L2>(_mm_sll_epi64(unit_cast<__m128i>(x), unit_cast<__m128i>(count)));
-    L2 second = unit_cast<L2>(_mm_sll_epi64(unit_cast<__m128i>(x), unit_cast<__m128i>(second_count)));
-    return __builtin_shufflevector(first, second, 0, 3);
-}
-
-// All ones where the sign is set.
-I4 sign_mask(F4 y) { return bits(y) >> 31; }
-L2 sign_mask(D2 y) { return spread_high(halves(y) >> 31); }
-
-I4 biased_exponent(F4 y) { return signed_lanes(unsigned_lanes(bits(y)) >> 23); }
-L2 biased_exponent(D2 y) { return signed_lanes(unsigned_lanes(bits(y)) >> 52); }
-
-// An integral m >= 0 as significand * 2^count. Below the shifter, m stands in the low bits of a sum with it, whose
-// implied bit is not m's, and whose count is 0; from there on the fields of m itself are the answer. Small lanes
-// come first to that sum, the others are added to zero.
-template <class Bits>
-struct Fields {
-    Bits significand, count;
-};
-template <class F, class Data>
-auto fields(F m, const Data& data) {
-    auto is_small = m < data.shifter;
-    F z = m + and_bits(data.shifter, is_small);
-    auto significand = (bits(z) & data.significand) | (~is_small & data.implied);
-    return Fields<decltype(bits(m))>{significand, biased_exponent(z) - data.count_bias};
-}
-
-auto unsigned_integer(auto fields) {
-    return each_unit(shift_each_left, widen(fields.significand), widen(fields.count));
-}
-// Negated before it is shifted: one operation for all lanes, and the shift carries the sign along.
-auto signed_integer(auto fields, auto negative) {
-    return each_unit(shift_each_left, widen_signed((fields.significand ^ negative) - negative), widen(fields.count));
-}
-
-// ---- The conversion stage, 64-bit targets. -----------------------------------------------------------------
-
-// 2^63 as an integer is the pattern for what is out of range, of either sign, and the minimum's second operand is
+// 2^63 as an integer, of either sign, is the pattern for what is out of range, and the maximum's second operand is
 // what a NaN becomes.
 struct ToI64_nosat {
     template <class F, class Data>
     static auto convert(F y, const Data& data) {
-        F m = hardware_min(clear_bits(y, data.sign), data.bound);
-        return signed_integer(fields(m, data), sign_mask(y));
+        return integer(doubles(hardware_min(hardware_max(y, data.lowest), data.bound)), data.magic);
     }
 };
 
-// As before, but the maximum has made zero of a NaN, and what is too large is the pattern less one: the highest long.
+// As before, but a NaN is zero, and what is too large is the pattern less one: the highest long.
 struct ToI64_sat {
     template <class F, class Data>
     static auto convert(F y, const Data& data) {
-        F m = hardware_min(hardware_max(clear_bits(y, data.sign), F{}), data.bound);
-        return each_unit([](L2 integer, L2 minus_one) { return integer + minus_one; },
-                         signed_integer(fields(m, data), sign_mask(y)), widen_mask(data.bound <= y));
+        F number = and_bits(y, y == y);
+        return add(ToI64_nosat::convert(number, data), widen_mask(data.bound <= y));
     }
 };
-
-UL2 unsigned_units(L2 x) { return unsigned_lanes(x); }
-UL4 unsigned_units(L4 x) { return {unsigned_lanes(x.low), unsigned_lanes(x.high)}; }
 
 // The sign is dropped; out of range and NaN give the pattern of the signed target, 2^63.
 struct ToU64_nosat {
     template <class F, class Data>
     static auto convert(F y, const Data& data) {
         F m = clear_bits(y, data.sign);
-        return unsigned_units(unsigned_integer(fields(select(m < data.bound, m, F(data.indefinite)), data)));
+        F in_range = select(m < data.bound, m, F(data.indefinite));
+        return unsigned_units(integer(doubles(in_range), data.magic));
     }
 };
 
-// The maximum's second operand is what a NaN becomes, and a negative y: zero.
+// The maximum's second operand is what a NaN becomes, and a negative y: zero. What is too large is 2^64, whose
+// integer is zero, less one.
 struct ToU64_sat {
     template <class F, class Data>
     static auto convert(F y, const Data& data) {
         F m = hardware_max(y, F{});
-        return unsigned_units(each_unit([](L2 integer, L2 too_large) { return integer | too_large; },
-                                        unsigned_integer(fields(m, data)), widen_mask(data.bound <= m)));
+        auto from_range = integer(doubles(hardware_min(m, data.bound)), data.magic);
+        return unsigned_units(add(from_range, widen_mask(data.bound <= m)));
     }
 };
 

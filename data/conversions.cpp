@@ -67,17 +67,21 @@ const ToIntegerData<double, ToU32Data> cvtfptou32_data = {
         },
 };
 
+// The 1.5 leaves room below for a negative piece. The high number ends in minus the low number's high word: the sum
+// of the integers, the high one shifted by 32, is then free of both.
+static constexpr IntegerMagic integer_magic = {
+    .high = 0x45380000bcc80000,  // 1.5 * 2^84 + 0xbcc80000 * 2^32
+    .low = 0x4338000000000000,   // 1.5 * 2^52
+};
+
 const ToIntegerData<float, ToI64Data> cvtfptoi64f_data = {
     .rounding = rounding_float,
     .rounding_up = rounding_up_float,
     .conversion =
         {
-            .sign = 0x80000000,         //
-            .significand = 0x007fffff,  //
-            .implied = 0x00800000,      //
-            .count_bias = 150,          // exponent bias and significand bits
-            .shifter = 0x4b000000,      // 2^23
-            .bound = 0x5f000000,        // 2^63
+            .lowest = 0xdf000000,  // -2^63
+            .bound = 0x5f000000,   // 2^63
+            .magic = integer_magic,
         },
 };
 const ToIntegerData<double, ToI64Data> cvtfptoi64_data = {
@@ -85,12 +89,9 @@ const ToIntegerData<double, ToI64Data> cvtfptoi64_data = {
     .rounding_up = rounding_up_double,
     .conversion =
         {
-            .sign = 0x8000000000000000,         //
-            .significand = 0x000fffffffffffff,  //
-            .implied = 0x0010000000000000,      //
-            .count_bias = 1075,                 // exponent bias and significand bits
-            .shifter = 0x4330000000000000,      // 2^52
-            .bound = 0x43e0000000000000,        // 2^63
+            .lowest = 0xc3e0000000000000,  // -2^63
+            .bound = 0x43e0000000000000,   // 2^63
+            .magic = integer_magic,
         },
 };
 
@@ -99,13 +100,10 @@ const ToIntegerData<float, ToU64Data> cvtfptou64f_data = {
     .rounding_up = rounding_up_float,
     .conversion =
         {
-            .sign = 0x80000000,         //
-            .significand = 0x007fffff,  //
-            .implied = 0x00800000,      //
-            .count_bias = 150,          // exponent bias and significand bits
-            .shifter = 0x4b000000,      // 2^23
-            .bound = 0x5f800000,        // 2^64
-            .indefinite = 0x5f000000,   // 2^63: the signed pattern
+            .sign = 0x80000000,        //
+            .bound = 0x5f800000,       // 2^64
+            .indefinite = 0x5f000000,  // 2^63: the signed pattern
+            .magic = integer_magic,
         },
 };
 const ToIntegerData<double, ToU64Data> cvtfptou64_data = {
@@ -113,13 +111,10 @@ const ToIntegerData<double, ToU64Data> cvtfptou64_data = {
     .rounding_up = rounding_up_double,
     .conversion =
         {
-            .sign = 0x8000000000000000,         //
-            .significand = 0x000fffffffffffff,  //
-            .implied = 0x0010000000000000,      //
-            .count_bias = 1075,                 // exponent bias and significand bits
-            .shifter = 0x4330000000000000,      // 2^52
-            .bound = 0x43f0000000000000,        // 2^64
-            .indefinite = 0x43e0000000000000,   // 2^63: the signed pattern
+            .sign = 0x8000000000000000,        //
+            .bound = 0x43f0000000000000,       // 2^64
+            .indefinite = 0x43e0000000000000,  // 2^63: the signed pattern
+            .magic = integer_magic,
         },
 };
 
@@ -150,6 +145,18 @@ const ThreePiecesData three_pieces_data = {
 };
 const WordData word_data = {
     .magic = 0x4330000000000000,  // 2^52: the last bit weighs 1
+};
+const TwoWordsData signed_words_data = {
+    .low_word = 0xffffffff,            //
+    .low_magic = 0x4330000000000000,   // 2^52: the last bit weighs 1
+    .high_magic = 0x4530000080000000,  // 2^84: the last bit weighs 2^32; and the sign bit, from -2^31 to 0
+    .excess = 0x4530000080100000,      // 2^84 + 2^63 + 2^52
+};
+const TwoWordsData unsigned_words_data = {
+    .low_word = 0xffffffff,            //
+    .low_magic = 0x4330000000000000,   // 2^52: the last bit weighs 1
+    .high_magic = 0x4530000000000000,  // 2^84: the last bit weighs 2^32
+    .excess = 0x4530000000100000,      // 2^84 + 2^52
 };
 
 }  // namespace zorv

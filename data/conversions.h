@@ -36,15 +36,20 @@ struct ToU32Data {
     Slot<int32_t> top_bit;
     Slot<BoundOf<Float>> bound;
 };
+// Magic numbers whose last bits weigh 2^32 and 1.
+struct IntegerMagic {
+    Slot<double> high, low;
+};
 template <class Float>
 struct ToI64Data {
-    Slot<BitsOf<Float>> sign, significand, implied, count_bias;
-    Slot<Float> shifter, bound;
+    Slot<Float> lowest, bound;
+    IntegerMagic magic;
 };
 template <class Float>
 struct ToU64Data {
-    Slot<BitsOf<Float>> sign, significand, implied, count_bias;
-    Slot<Float> shifter, bound, indefinite;
+    Slot<BitsOf<Float>> sign;
+    Slot<Float> bound, indefinite;
+    IntegerMagic magic;
 };
 
 template <class Float, template <class> class ConversionData>
@@ -78,10 +83,17 @@ struct ThreePiecesData {
 struct WordData {
     Slot<double> magic;
 };
+// Both halves of a 64-bit lane: the integers that set them into magic numbers, and what these then hold too much.
+struct TwoWordsData {
+    Slot<int64_t> low_word, low_magic, high_magic;
+    Slot<double> excess;
+};
 
 HIDDEN extern const TwoPiecesData<float> two_pieces_float_data;
 HIDDEN extern const TwoPiecesData<double> two_pieces_double_data;
 HIDDEN extern const ThreePiecesData three_pieces_data;
 HIDDEN extern const WordData word_data;
+HIDDEN extern const TwoWordsData signed_words_data;
+HIDDEN extern const TwoWordsData unsigned_words_data;
 
 }  // namespace zorv
