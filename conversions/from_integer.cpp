@@ -211,7 +211,7 @@ struct NearestOfThree {
 template <class Units, const auto& record>
 struct NearestOfTwoWords {
     static D2 main(Units x) {
-        const auto& data = in_memory(record);
+        const auto& data = record;
         D2 low = as_double((unit_cast<L2>(x) & data.low_word) | data.low_magic);
         D2 high = as_double(signed_lanes(unit_cast<UL2>(x) >> 32) ^ data.high_magic);
         return (high - data.excess) + low;

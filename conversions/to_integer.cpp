@@ -124,12 +124,16 @@ L2 integer(D2 y, const IntegerMagic& data) {
 }
 L4 integer(D4 y, const IntegerMagic& data) { return {integer(y.low, data), integer(y.high, data)}; }
 
-// Masks of source lanes, in 64-bit lanes.
-L4 widen_mask(I4 mask) { return {double_low(mask), double_high(mask)}; }
-L2 widen_mask(L2 mask) { return mask; }
+// The same, but no more than the target's largest: what is too large leaves the larger rest.
+L2 saturated(D2 y, const IntegerMagic& data, const IntegerTop& top) {
+    D2 high = hardware_min(y + data.high, top.high);
+    D2 rest = hardware_min(y - (high - data.high), top.rest);
+    return (bits(high) << 32) + bits(rest + data.low);
+}
+L4 saturated(D4 y, const IntegerMagic& data, const IntegerTop& top) {
+    return {saturated(y.low, data, top), saturated(y.high, data, top)};
+}
 
-L2 add(L2 x, L2 y) { return x + y; }
-L4 add(L4 x, L4 y) { return {x.low + y.low, x.high + y.high}; }
 UL2 unsigned_units(L2 x) { return unsigned_lanes(x); }
 UL4 unsigned_units(L4 x) { return {unsigned_lanes(x.low), unsigned_lanes(x.high)}; }
 
@@ -142,12 +146,12 @@ struct ToI64_nosat {
     }
 };
 
-// As before, but a NaN is zero, and what is too large is the pattern less one: the highest long.
+// What is too small is still the lowest long, but a NaN is zero.
 struct ToI64_sat {
     template <class F, class Data>
     static auto convert(F y, const Data& data) {
         F number = and_bits(y, y == y);
-        return add(ToI64_nosat::convert(number, data), widen_mask(data.bound <= y));
+        return saturated(doubles(hardware_max(number, data.lowest)), data.magic, data.top);
     }
 };
 
@@ -161,14 +165,11 @@ struct ToU64_nosat {
     }
 };
 
-// The maximum's second operand is what a NaN becomes, and a negative y: zero. What is too large is 2^64, whose
-// integer is zero, less one.
+// The maximum's second operand is what a NaN becomes, and a negative y: zero.
 struct ToU64_sat {
     template <class F, class Data>
     static auto convert(F y, const Data& data) {
-        F m = hardware_max(y, F{});
-        auto from_range = integer(doubles(hardware_min(m, data.bound)), data.magic);
-        return unsigned_units(add(from_range, widen_mask(data.bound <= m)));
+        return unsigned_units(saturated(doubles(hardware_max(y, F{})), data.magic, data.top));
     }
 };
 

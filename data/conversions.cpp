@@ -73,6 +73,14 @@ static constexpr IntegerMagic integer_magic = {
     .high = 0x45380000bcc80000,  // 1.5 * 2^84 + 0xbcc80000 * 2^32
     .low = 0x4338000000000000,   // 1.5 * 2^52
 };
+static constexpr IntegerTop signed_top = {
+    .high = 0x453800013cc7ffff,  // (2^31 - 1) * 2^32 above the magic number
+    .rest = 0x41efffffffe00000,  // 2^32 - 1
+};
+static constexpr IntegerTop unsigned_top = {
+    .high = 0x45380001bcc7ffff,  // (2^32 - 1) * 2^32 above the magic number
+    .rest = 0x41efffffffe00000,  // 2^32 - 1
+};
 
 const ToIntegerData<float, ToI64Data> cvtfptoi64f_data = {
     .rounding = rounding_float,
@@ -82,6 +90,7 @@ const ToIntegerData<float, ToI64Data> cvtfptoi64f_data = {
             .lowest = 0xdf000000,  // -2^63
             .bound = 0x5f000000,   // 2^63
             .magic = integer_magic,
+            .top = signed_top,
         },
 };
 const ToIntegerData<double, ToI64Data> cvtfptoi64_data = {
@@ -92,6 +101,7 @@ const ToIntegerData<double, ToI64Data> cvtfptoi64_data = {
             .lowest = 0xc3e0000000000000,  // -2^63
             .bound = 0x43e0000000000000,   // 2^63
             .magic = integer_magic,
+            .top = signed_top,
         },
 };
 
@@ -104,6 +114,7 @@ const ToIntegerData<float, ToU64Data> cvtfptou64f_data = {
             .bound = 0x5f800000,       // 2^64
             .indefinite = 0x5f000000,  // 2^63: the signed pattern
             .magic = integer_magic,
+            .top = unsigned_top,
         },
 };
 const ToIntegerData<double, ToU64Data> cvtfptou64_data = {
@@ -115,6 +126,7 @@ const ToIntegerData<double, ToU64Data> cvtfptou64_data = {
             .bound = 0x43f0000000000000,       // 2^64
             .indefinite = 0x43e0000000000000,  // 2^63: the signed pattern
             .magic = integer_magic,
+            .top = unsigned_top,
         },
 };
 

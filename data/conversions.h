@@ -40,16 +40,22 @@ struct ToU32Data {
 struct IntegerMagic {
     Slot<double> high, low;
 };
+// The pieces of a target's largest integer, the high one in its sum with the magic number.
+struct IntegerTop {
+    Slot<double> high, rest;
+};
 template <class Float>
 struct ToI64Data {
     Slot<Float> lowest, bound;
     IntegerMagic magic;
+    IntegerTop top;
 };
 template <class Float>
 struct ToU64Data {
     Slot<BitsOf<Float>> sign;
     Slot<Float> bound, indefinite;
     IntegerMagic magic;
+    IntegerTop top;
 };
 
 template <class Float, template <class> class ConversionData>
