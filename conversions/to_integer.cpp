@@ -183,6 +183,22 @@ struct ToInteger {
     }
 };
 
+// The pair behind every cast of a float to an int has a way of its own, with nothing to load: the packed conversion
+// rounds to nearest, and a result that has gone away from zero steps back by one. That is nearest > x where x is
+// positive; where x is negative, one is added, and taken off again unless x < nearest. For both to be one compare, a
+// negative nearest is moved to the float above it, of which x < nearest + 1 ulp says x <= nearest. The float "above"
+// zero is then a NaN, whose compare says the same as that of any small number: yes. A NaN x is taken as negative and
+// keeps, as all that is out of range does, what the conversion has given it.
+template <>
+struct ToInteger<F4, cvtfptoi32f_data, ToI32_nosat, TowardZero> {
+    static I4 main(F4 x) {
+        I4 nearest = hardware_int(x);
+        I4 negative = ~(F4{} <= x);
+        F4 bound = as_float(bits(__builtin_convertvector(nearest, F4)) + negative);
+        return nearest + ~(bound <= x) - negative;
+    }
+};
+
 // What the words of a grid row stand for.
 #define NAME_float_(base) base##f
 #define NAME_double_(base) base
