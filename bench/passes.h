@@ -79,8 +79,9 @@ inline Unit load_unit(const void* at) {
 
 template <auto* function, size_t bytes, class Element, class Result, class... Units>
 struct UnitPass {
+    // The arrays by value: the stores, which may alias anything, would have every pointer loaded anew.
     template <size_t... operand>
-    static void run(const Arrays& arrays, std::index_sequence<operand...>) {
+    static void run(const Arrays arrays, std::index_sequence<operand...>) {
         for (size_t at = 0; at < elements * sizeof(Element); at += bytes) {
             Result result = function(load_unit<bytes, Units>(arrays.operand<char>(operand) + at)...);
             if constexpr (requires { result.x; }) {

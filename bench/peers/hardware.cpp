@@ -16,7 +16,8 @@ namespace {
 
 // Conversions between units of different lane counts: two lanes at a time.
 template <auto* function, class From, class To>
-void two_lanes(const Arrays& arrays) {
+void two_lanes(const Arrays& all) {
+    const Arrays arrays = all;  // which no store can alias
     for (size_t i = 0; i < elements; i += 2) {
         __m128i operand, result;
         if constexpr (sizeof(From) == 4)
