@@ -46,4 +46,4 @@ foreach(source IN LISTS style_sources)
 endforeach()
 
 add_custom_target(style DEPENDS ${stamps})
-add_test(NAME style COMMAND ${CMAKE_COMMAND} --build ${PROJECT_BINARY_DIR} --target style)
+add_test(NAME style COMMAND ${CMAKE_COMMAND} --build ${PROJECT_BINARY_DIR} --target style -- -k 0)

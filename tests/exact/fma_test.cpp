@@ -9,7 +9,6 @@
 namespace {
 
 using harness::Patterns;
-using harness::Row;
 
 struct Mode {
     const char* name;
