@@ -152,8 +152,8 @@ void print(const grid::Family& family, const Measured& row) {
     std::printf("%-18s %-22s %12llu %-10s max %-11s at %s = %s, width %d lane %d\n", family.name.c_str(),
                 row.range.name.c_str(), static_cast<unsigned long long>(row.worst.tried),
                 row.exhaustive ? "(all)" : "(random)", ulps(row.worst.error).c_str(),
-                operands_text(family, row.worst).c_str(), result_text(family, row.worst).c_str(),
-                row.worst.place.width, row.worst.place.lane);
+                operands_text(family, row.worst).c_str(), result_text(family, row.worst).c_str(), row.worst.place.width,
+                row.worst.place.lane);
     std::fflush(stdout);
 }
 
@@ -200,13 +200,16 @@ void update_markdown(const std::string& path, const std::map<std::string, std::v
     std::string family;
     bool in_table = false, behind = false;
     for (std::string line; std::getline(old, line);) {
-        if (line.starts_with("|---")) in_table = true, before.push_back(line);
+        if (line.starts_with("|---"))
+            in_table = true, before.push_back(line);
         else if (in_table && !behind && line.starts_with("|")) {
             size_t first = line.find('`'), last = line.find('`', first + 1);
             if (first < line.find('|', 1)) family = line.substr(first + 1, last - first - 1);
             rows[family].push_back(line);
-        } else if (in_table) behind = true, after.push_back(line);
-        else before.push_back(line);
+        } else if (in_table)
+            behind = true, after.push_back(line);
+        else
+            before.push_back(line);
     }
     if (!in_table) stop(path + " has no table to fill");
     for (const auto& [name, lines] : measured) rows[name] = lines;
@@ -253,7 +256,8 @@ void draw(const grid::Family& family, const std::vector<Measured>& rows, const s
     std::FILE* plot = popen("gnuplot", "w");
     if (!plot) stop("the pictures need gnuplot (Debian: apt-get install gnuplot-nox)");
     int columns = rows.size() > 1 ? 2 : 1, lines = (static_cast<int>(rows.size()) + columns - 1) / columns;
-    std::fprintf(plot, "set terminal svg size %d,%d font 'sans,11' background 'white'\nset output '%s/accuracy-%s.svg'\n",
+    std::fprintf(plot,
+                 "set terminal svg size %d,%d font 'sans,11' background 'white'\nset output '%s/accuracy-%s.svg'\n",
                  460 * columns, 260 * lines + 30, directory.c_str(), family.name.c_str());
     std::fprintf(plot, "set multiplot layout %d,%d title '%s' noenhanced\n", lines, columns, family.name.c_str());
     std::fprintf(plot, "set grid\nset key off\nset format x '%%.4g'\nset xtics rotate by -20\n");

@@ -105,8 +105,8 @@ uint64_t draw(const Span& span, Random& random) {
                                                        : span.last - static_cast<int64_t>(step));
     }
     if (way < 9)  // evenly over the numbers: over the exponents
-        return from_order(span.lane, static_cast<int64_t>(static_cast<uint64_t>(span.first) +
-                                                          random.below(span.count())));
+        return from_order(span.lane,
+                          static_cast<int64_t>(static_cast<uint64_t>(span.first) + random.below(span.count())));
     double u = random.unit();  // evenly over the values
     uint64_t bits = pattern_of(span.lane, span.low * (1 - u) + span.high * u);
     return from_order(span.lane, std::clamp(order_of(span.lane, bits), span.first, span.last));
@@ -121,8 +121,7 @@ class Bench {
         for (size_t i = 0; i < family.operands.size(); ++i) spans_.emplace_back(family.operands[i], range.operand(i));
         floating_lane_ = family.is_single ? Lane::f32 : Lane::f64;
         if (range.beside) {
-            for (size_t i = 0; i < spans_.size(); ++i)
-                set(i, lanes(), pattern_of(spans_[i].lane, *range.beside));
+            for (size_t i = 0; i < spans_.size(); ++i) set(i, lanes(), pattern_of(spans_[i].lane, *range.beside));
         }
     }
 
@@ -311,7 +310,9 @@ void climb_from(Finding& worst, const grid::Family& family, const Range& range, 
 
 }  // namespace
 
-double bound_of(const grid::Family& family, const Range& range) { return range.bound >= 0 ? range.bound : family.bound; }
+double bound_of(const grid::Family& family, const Range& range) {
+    return range.bound >= 0 ? range.bound : family.bound;
+}
 bool has_reference(const grid::Family& family) { return reference::find(family.base) != nullptr; }
 
 std::vector<Range> ranges_of(const grid::Family& family) {
@@ -415,7 +416,8 @@ void write_worst(const std::string& directory, const grid::Family& family, const
     for (const Finding& finding : findings) {
         file << finding.place.range << ' ' << finding.place.width << ' ' << finding.place.lane;
         for (const std::vector<uint64_t>& lanes : finding.place.operands)
-            for (size_t l = 0; l < lanes.size(); ++l) file << (l ? ',' : ' ') << "0x" << std::hex << lanes[l] << std::dec;
+            for (size_t l = 0; l < lanes.size(); ++l)
+                file << (l ? ',' : ' ') << "0x" << std::hex << lanes[l] << std::dec;
         file << '\n';
     }
 }

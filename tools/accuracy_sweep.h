@@ -23,7 +23,7 @@ struct Interval {
 // A part of a family's domain. Ends belong to it; in single precision they are rounded inward.
 struct Range {
     std::string family, name;
-    Interval x = {}, y = {}, z = {};       // of the first, second and third operand
+    Interval x = {}, y = {}, z = {};    // of the first, second and third operand
     std::optional<double> beside = {};  // what the last lane of every vector holds, in every operand
     int width = 0;                      // the one width that the range is about; 0: every width
     double bound = -1;                  // where it is tighter than the family's

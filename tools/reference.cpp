@@ -176,8 +176,8 @@ std::vector<Operation> make_operations() {
         {"trunc", 1, exact_integral<MPFR_RNDZ>, screen<truncl>},
         {"rint", 1, exact_integral<MPFR_RNDN>, screen<rintl>},
         {"nearbyint", 1, exact_integral<MPFR_RNDN>, screen<rintl>},
-        {"modf", 2,
-         [](Lane, const Real* x, Real* r) { mpfr_modf(r[1].get(), r[0].get(), x->get(), MPFR_RNDN); }, nullptr},
+        {"modf", 2, [](Lane, const Real* x, Real* r) { mpfr_modf(r[1].get(), r[0].get(), x->get(), MPFR_RNDN); },
+         nullptr},
         {"fract", 2, exact_fract, nullptr},
         {"fmod", 1, exact<mpfr_fmod>, screen<fmodl>},
         {"remainder", 1, exact<mpfr_remainder>, screen<remainderl>},
@@ -208,8 +208,7 @@ std::vector<Operation> make_operations() {
         // Trigonometric functions.
         {"sin", 1, exact<mpfr_sin>, screen<sinl>},
         {"cos", 1, exact<mpfr_cos>, screen<cosl>},
-        {"sincos", 2,
-         [](Lane, const Real* x, Real* r) { mpfr_sin_cos(r[0].get(), r[1].get(), x->get(), MPFR_RNDN); },
+        {"sincos", 2, [](Lane, const Real* x, Real* r) { mpfr_sin_cos(r[0].get(), r[1].get(), x->get(), MPFR_RNDN); },
          [](const long double* x, long double* r) { sincosl(*x, &r[0], &r[1]); }},
         {"sincosreg", 2,
          [](Lane, const Real* x, Real* r) { mpfr_sin_cos(r[0].get(), r[1].get(), x->get(), MPFR_RNDN); },
@@ -225,8 +224,7 @@ std::vector<Operation> make_operations() {
         {"asinpi", 1, exact<mpfr_asinpi>, [](const long double* x, long double* r) { *r = asinl(*x) / pi; }},
         {"acospi", 1, exact<mpfr_acospi>, [](const long double* x, long double* r) { *r = acosl(*x) / pi; }},
         {"atanpi", 1, exact<mpfr_atanpi>, [](const long double* x, long double* r) { *r = atanl(*x) / pi; }},
-        {"atan2pi", 1, exact<mpfr_atan2pi>,
-         [](const long double* x, long double* r) { *r = atan2l(x[0], x[1]) / pi; }},
+        {"atan2pi", 1, exact<mpfr_atan2pi>, [](const long double* x, long double* r) { *r = atan2l(x[0], x[1]) / pi; }},
 
         // Hyperbolic functions.
         {"sinh", 1, exact<mpfr_sinh>, screen<sinhl>},

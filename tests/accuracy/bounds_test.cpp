@@ -51,8 +51,8 @@ TEST_P(Bounds, AreReachedByTheWorstOperandsKnown) {
     }
     // Exact and correctly rounded families need no witness.
     if (family.bound > 0.5)
-        EXPECT_GE(worst, share * family.bound) << "a loose bound, or worst operands to be found anew: accuracy "
-                                             << family.name << " --worst tests/worst";
+        EXPECT_GE(worst, share * family.bound)
+            << "a loose bound, or worst operands to be found anew: accuracy " << family.name << " --worst tests/worst";
 }
 
 INSTANTIATE_TEST_SUITE_P(Family, Bounds, testing::ValuesIn(families_with_reference()),

@@ -112,8 +112,9 @@ TEST(Reference, ScreensAgreeWithMpfr) {
                 Real value;
                 mpfr_set_ld(value.get(), screened[r], MPFR_RNDN);
                 double nearest = exact[r].as_double();
-                double off = std::fabs(reference::ulp_distance(Lane::f64, __builtin_bit_cast(uint64_t, nearest), value) -
-                                       reference::ulp_distance(Lane::f64, __builtin_bit_cast(uint64_t, nearest), exact[r]));
+                double off =
+                    std::fabs(reference::ulp_distance(Lane::f64, __builtin_bit_cast(uint64_t, nearest), value) -
+                              reference::ulp_distance(Lane::f64, __builtin_bit_cast(uint64_t, nearest), exact[r]));
                 if (off > worst || std::isnan(off)) worst = off, at = first;
             }
         }
