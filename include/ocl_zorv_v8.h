@@ -167,7 +167,7 @@ double16 __ocl_zorv_v8_div16_native(double16 x, double16 y);
 
 /* sqrtf: The square root of x. x: float; result: float.
  * +-0 gives +-0, +infinity gives +infinity, a negative operand gives NaN.
- * Error: 0.82 ulp at most.
+ * Error: 0.86 ulp at most.
  * float: the hardware's reciprocal root estimate, two coupled Newton-Raphson (Goldschmidt) steps. double: the
  * hardware's correctly rounded square root. */
 float __ocl_zorv_v8_sqrtf1(float x);
@@ -215,7 +215,7 @@ double16 __ocl_zorv_v8_sqrt16_native(double16 x);
 
 /* rsqrtf: 1 / the square root of x. x: float; result: float.
  * +-0 gives +-infinity, +infinity gives +0, a negative operand gives NaN.
- * Error: 0.99 ulp at most.
+ * Error: 1.02 ulp at most.
  * The hardware's estimate y, then y (1 + e)^(-1/2) by its Taylor terms (float) or a fit of degree 4 (double)
  * in the residual e. */
 float __ocl_zorv_v8_rsqrtf1(float x);

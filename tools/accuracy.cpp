@@ -101,6 +101,7 @@ std::vector<Measured> measure(const grid::Family& family, const Arguments& argum
     std::vector<Measured> list;
     for (Range range : accuracy::ranges_of(family)) {
         if (!arguments.range.empty() && range.name != arguments.range) continue;
+        if (arguments.neighbour && range.width == 1) continue;
         if (arguments.neighbour) range.beside = arguments.neighbour;
         if (range.beside && arguments.options.width == 1) stop("a control value needs a second lane");
         accuracy::Options options = arguments.options;
@@ -108,7 +109,7 @@ std::vector<Measured> measure(const grid::Family& family, const Arguments& argum
             if (place.range == range.name) options.start = place;
         bool possible = accuracy::can_be_exhaustive(family);
         if (arguments.exhaustive && !possible) stop(family.name + " has too many operands to try them all");
-        bool exhaustive = arguments.exhaustive || (possible && arguments.random == 0);
+        bool exhaustive = arguments.exhaustive || (possible && !range.sampled && arguments.random == 0);
         uint64_t count = arguments.random ? arguments.random : 1 << 20;
         list.push_back({range,
                         exhaustive ? accuracy::sweep_exhaustive(family, range, options)
@@ -185,10 +186,19 @@ std::string markdown_row(const grid::Family& family, const Measured& row, const 
     if (row.range.width) operands += ", width " + std::to_string(row.range.width);
     std::string name = row.range.name;
     std::ranges::replace(name, '_', ' ');
+    std::string where = " |  |";  // an exact result has no worst operand
+    if (row.worst.error > 0)
+        where = " `" + operands_text(family, row.worst) + "` | `" +
+                hex(family.results[row.worst.result], row.worst.value) + "`" +
+                (row.worst.result ? " (second) |" : " |");
     return "| " + name_cell + " | " + name + " | " + operands + " | " + count_text(row) + " | " +
-           ulps(row.worst.error) + " | " + number(accuracy::bound_of(family, row.range)) + " | `" +
-           operands_text(family, row.worst) + "` | `" + hex(family.results[row.worst.result], row.worst.value) + "`" +
-           (row.worst.result ? " (second)" : "") + " |";
+           ulps(row.worst.error) + " | " + number(accuracy::bound_of(family, row.range)) + " |" + where;
+}
+
+// Drawn now, or earlier, beside the file.
+bool has_picture(const Arguments& arguments, const grid::Family& family) {
+    std::string directory = arguments.markdown.substr(0, arguments.markdown.rfind('/') + 1) + "pictures";
+    return !arguments.picture.empty() || std::ifstream(directory + "/accuracy-" + family.name + ".svg").good();
 }
 
 // The file keeps its text; its table keeps the rows of the families that were not measured. Rows stand in the grid's
@@ -222,26 +232,32 @@ void update_markdown(const std::string& path, const std::map<std::string, std::v
 
 // ---- Pictures: the largest error in each of some hundred intervals of the first operand. -----------------------
 
+// The horizontal axis: the operand itself, its binary logarithm, or, over a wide range with both signs, the logarithm
+// grown from zero to both sides.
 struct Profile {
-    static constexpr int bins = 240;
-    bool logarithmic;
-    double low, high;
+    static constexpr int bins = 160;
+    enum class Axis { linear, logarithmic, two_sided } axis;
+    double low, high, smallest;  // `smallest`: the logarithm of the smallest subnormal
     std::vector<double> largest = std::vector<double>(bins, -1);
 
-    // Logarithmic where the range keeps its sign and runs over more than ten binades.
-    explicit Profile(const accuracy::Interval& interval, double limit, double smallest)
-        : low(std::max(interval.low, -limit)), high(std::min(interval.high, limit)) {
-        if (low == 0 && high < 0x1p-100) low = smallest;
-        logarithmic = low > 0 ? high / low > 1024 : high < 0 && low / high > 1024;
+    Profile(const accuracy::Interval& interval, bool single)
+        : low(interval.low), high(interval.high), smallest(single ? -149 : -1074) {
+        double limit = single ? accuracy::largest_float : accuracy::largest_double;
+        low = std::max(low, -limit);
+        high = std::min(high, limit);
+        if (low == 0) low = std::exp2(smallest);
+        bool one_sign = low > 0 || high < 0;
+        double larger = std::max(std::fabs(low), std::fabs(high)), smaller = std::min(std::fabs(low), std::fabs(high));
+        axis = one_sign ? (larger / 1024 > smaller || larger > 0x1p30 ? Axis::logarithmic : Axis::linear)
+                        : (larger > 0x1p20 ? Axis::two_sided : Axis::linear);
     }
-    double scaled(double x) const { return logarithmic ? std::log2(std::fabs(x)) : x; }
-    // Halves, as the width of a range of all numbers is not one of them.
-    double position(double x) const {
-        double a = scaled(low) / 2, b = scaled(high) / 2;
-        return (scaled(x) / 2 - a) / (b - a) * bins;
+    double scaled(double x) const {
+        if (axis == Axis::linear) return x;
+        if (axis == Axis::logarithmic) return std::log2(std::fabs(x));
+        return x == 0 ? 0 : std::copysign(std::log2(std::fabs(x)) - smallest, x);
     }
     void add(double x, double error) {
-        double at = position(x);
+        double at = (scaled(x) - scaled(low)) / (scaled(high) - scaled(low)) * bins;
         if (!(at >= 0 && at <= bins) || !std::isfinite(error)) return;
         double& bin = largest[static_cast<size_t>(std::min(at, bins - 1.0))];
         bin = std::max(bin, error);
@@ -249,6 +265,19 @@ struct Profile {
     double middle(int bin) const {
         double t = (bin + 0.5) / bins;
         return scaled(low) * (1 - t) + scaled(high) * t;
+    }
+    std::string label() const {
+        return axis == Axis::linear ? "x" : axis == Axis::two_sided ? "x" : low < 0 ? "log2(-x)" : "log2(x)";
+    }
+    std::string tics() const {
+        if (axis != Axis::two_sided) return "set xtics auto";
+        std::string list = "set xtics ('0' 0";
+        for (int power = smallest < -200 ? -600 : -80; std::exp2(power) < std::max(-low, high);
+             power += smallest < -200 ? 600 : 80) {
+            std::string two = "2^{" + std::to_string(power) + "}", at = std::to_string(power - smallest);
+            list += ", '" + two + "' " + at + ", '-" + two + "' -" + at;
+        }
+        return list + ")";
     }
 };
 
@@ -260,19 +289,18 @@ void draw(const grid::Family& family, const std::vector<Measured>& rows, const s
                  "set terminal svg size %d,%d font 'sans,11' background 'white'\nset output '%s/accuracy-%s.svg'\n",
                  460 * columns, 260 * lines + 30, directory.c_str(), family.name.c_str());
     std::fprintf(plot, "set multiplot layout %d,%d title '%s' noenhanced\n", lines, columns, family.name.c_str());
-    std::fprintf(plot, "set grid\nset key off\nset format x '%%.4g'\nset xtics rotate by -20\n");
+    std::fprintf(plot, "set grid\nset key off\nset format x '%%g'\n");
     for (const Measured& row : rows) {
         bool single = family.operands[0] == grid::Lane::f32;
-        Profile profile(row.range.x, single ? accuracy::largest_float : accuracy::largest_double,
-                        single ? 0x1p-149 : 0x1p-1074);
+        Profile profile(row.range.x, single);
         accuracy::Options options;
         options.width = row.range.beside ? 4 : 16;
         options.watch = [&](double x, double error) { profile.add(x, error); };
         accuracy::sweep_random(family, row.range, 200000, false, options);
         std::string name = row.range.name;
         std::ranges::replace(name, '_', ' ');
-        std::fprintf(plot, "set title '%s'\nset xlabel '%s'\nset ylabel 'largest error, ulp'\n", name.c_str(),
-                     profile.logarithmic ? (profile.low < 0 ? "log2(-x)" : "log2(x)") : "x");
+        std::fprintf(plot, "set title '%s'\nset xlabel '%s'\nset ylabel 'largest error, ulp'\n%s\n", name.c_str(),
+                     profile.label().c_str(), profile.tics().c_str());
         double a = profile.scaled(profile.low), b = profile.scaled(profile.high);
         std::fprintf(plot, "set xrange [%.9g:%.9g]\nset yrange [0:%.9g]\n", std::min(a, b), std::max(a, b),
                      std::max(1.05 * accuracy::bound_of(family, row.range), 0.01));
@@ -300,7 +328,7 @@ int main(int count, char** words) {
             print(*family, row);
             findings.push_back(row.worst);
             std::string name = "`" + family->name + "`";
-            if (!arguments.picture.empty()) name = "[" + name + "](pictures/accuracy-" + family->name + ".svg)";
+            if (has_picture(arguments, *family)) name = "[" + name + "](pictures/accuracy-" + family->name + ".svg)";
             table[family->name].push_back(markdown_row(*family, row, &row == &rows[0] ? name : ""));
             double bound = accuracy::bound_of(*family, row.range);
             if (row.worst.error <= bound) continue;

@@ -167,7 +167,8 @@ class Bench {
             double error = reference::ulp_distance(family_.results[r], result(r, lane), exact_results_[r]);
             if (operation_.screen && screened[r] < error - reference::screen_margin(floating_lane_)) fail(lane, error);
             screened[r] = error;
-            if (error <= worst.error) continue;
+            // Of equals the lowest pattern, so that the order in which threads find them does not matter.
+            if (error < worst.error || (error == worst.error && get(0, lane) >= worst.operand(0))) continue;
             worst.error = error;
             worst.result = r;
             worst.value = result(r, lane);
@@ -252,7 +253,9 @@ Finding over_pieces(uint64_t count, const Options& options, const std::function<
         for (uint64_t piece = next++; piece < count; piece = next++) sweep(piece, own);
         std::lock_guard lock(merging);
         uint64_t tried = worst.tried + own.tried;
-        if (own.error > worst.error) worst = own;
+        if (own.error > worst.error ||
+            (own.error == worst.error && own.error >= 0 && own.operand(0) < worst.operand(0)))
+            worst = own;
         worst.tried = tried;
         mpfr_free_cache();
     };
@@ -269,7 +272,7 @@ Finding start_of(const grid::Family& family, const Options& options) {
 
 // The same lane at width 1, where that gives the same.
 Finding simplest(const grid::Family& family, const Range& range, Finding worst) {
-    if (range.width || worst.place.width <= 1) return worst;
+    if (range.width || range.beside || worst.place.width <= 1) return worst;
     Place alone = worst.place;
     alone.width = 1;
     alone.lane = 0;
@@ -364,7 +367,7 @@ Finding sweep_random(const grid::Family& family, const Range& range, uint64_t co
 }
 
 bool can_be_exhaustive(const grid::Family& family) {
-    return family.operands.size() == 1 && family.operands[0] == Lane::f32;
+    return family.operands.size() == 1 && family.operands[0] == Lane::f32 && reference::find(family.base)->screen;
 }
 
 Finding sweep_exhaustive(const grid::Family& family, const Range& range, const Options& options) {
@@ -411,9 +414,11 @@ std::vector<Place> read_worst(const std::string& directory, const grid::Family& 
 }
 
 void write_worst(const std::string& directory, const grid::Family& family, const std::vector<Finding>& findings) {
+    if (std::ranges::none_of(findings, [](const Finding& finding) { return finding.error > 0; })) return;
     std::ofstream file(directory + "/" + family.name + ".txt");
     file << "# The worst operands found for " << family.name << ", by tools/accuracy: range, width, lane, operands\n";
     for (const Finding& finding : findings) {
+        if (finding.error == 0) continue;
         file << finding.place.range << ' ' << finding.place.width << ' ' << finding.place.lane;
         for (const std::vector<uint64_t>& lanes : finding.place.operands)
             for (size_t l = 0; l < lanes.size(); ++l)

@@ -27,6 +27,7 @@ struct Range {
     std::optional<double> beside = {};  // what the last lane of every vector holds, in every operand
     int width = 0;                      // the one width that the range is about; 0: every width
     double bound = -1;                  // where it is tighter than the family's
+    bool sampled = false;               // too slow to try every number of it
     double reached = 0.9;               // the part of the family's bound that its worst operands must come up to
 
     const Interval& operand(size_t i) const { return i == 0 ? x : i == 1 ? y : z; }
@@ -72,11 +73,11 @@ struct Options {
 // ends. With `climb`, a quarter as many more in the neighbourhood of the worst.
 Finding sweep_random(const grid::Family& family, const Range& range, uint64_t count, bool climb,
                      const Options& options);
-// Every number of the range; for families of one float operand.
+// Every number of the range; for families of one float operand that have a screen.
 bool can_be_exhaustive(const grid::Family& family);
 Finding sweep_exhaustive(const grid::Family& family, const Range& range, const Options& options);
 
-// The worst operands found so far: tests/worst/<family>.txt.
+// The worst operands found so far: tests/worst/<family>.txt. Exact results have none.
 std::vector<Place> read_worst(const std::string& directory, const grid::Family& family);
 void write_worst(const std::string& directory, const grid::Family& family, const std::vector<Finding>& findings);
 

@@ -89,16 +89,16 @@ void exact_magnitude(Lane, const Real* x, Real* result) {
         mpfr_set(result->get(), x[compared > 0 ? 0 : 1].get(), MPFR_RNDN);
 }
 
-void exact_fract(Lane lane, const Real* x, Real* results) {
+void exact_fract(Lane, const Real* x, Real* results) {
     mpfr_rint(results[1].get(), x->get(), MPFR_RNDD);
-    if (mpfr_inf_p(x->get())) {
+    if (mpfr_inf_p(x->get()))
         mpfr_set_zero(results[0].get(), mpfr_sgn(x->get()));
-        return;
-    }
-    Real below_one;
-    mpfr_set_d(below_one.get(), lane == Lane::f32 ? 0x1.fffffep-1 : 0x1.fffffffffffffp-1, MPFR_RNDN);
-    mpfr_sub(results[0].get(), x->get(), results[1].get(), MPFR_RNDN);
-    mpfr_min(results[0].get(), results[0].get(), below_one.get(), MPFR_RNDN);
+    else
+        mpfr_sub(results[0].get(), x->get(), results[1].get(), MPFR_RNDN);
+}
+void screen_fract(const long double* x, long double* results) {
+    results[1] = floorl(*x);
+    results[0] = std::isinf(*x) ? copysignl(0.0L, *x) : *x - results[1];
 }
 
 void exact_powr(Lane, const Real* x, Real* result) {
@@ -177,8 +177,8 @@ std::vector<Operation> make_operations() {
         {"rint", 1, exact_integral<MPFR_RNDN>, screen<rintl>},
         {"nearbyint", 1, exact_integral<MPFR_RNDN>, screen<rintl>},
         {"modf", 2, [](Lane, const Real* x, Real* r) { mpfr_modf(r[1].get(), r[0].get(), x->get(), MPFR_RNDN); },
-         nullptr},
-        {"fract", 2, exact_fract, nullptr},
+         [](const long double* x, long double* r) { r[0] = modfl(*x, &r[1]); }},
+        {"fract", 2, exact_fract, screen_fract},
         {"fmod", 1, exact<mpfr_fmod>, screen<fmodl>},
         {"remainder", 1, exact<mpfr_remainder>, screen<remainderl>},
         {"remquo", 1, exact<mpfr_remainder>, screen<remainderl>},
