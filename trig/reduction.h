@@ -29,6 +29,11 @@ struct Reduced {
 // The product of the low halves of 64-bit lanes.
 inline UL2 product(UL2 x, UL2 y) { return unit_cast<UL2>(_mm_mul_epu32(unit_cast<__m128i>(x), unit_cast<__m128i>(y))); }
 
+// The high halves of the products of 16-bit words, each in its place.
+inline UL2 high_words(UL2 x, UL2 y) {
+    return unit_cast<UL2>(_mm_mulhi_epu16(unit_cast<__m128i>(x), unit_cast<__m128i>(y)));
+}
+
 // ---- Single precision. -------------------------------------------------------------------------------------
 
 // The fraction of two lanes, whose significands stand in the low halves. With the significand as 16-bit halves
@@ -43,31 +48,33 @@ inline UL2 product(UL2 x, UL2 y) { return unit_cast<UL2>(_mm_mul_epu32(unit_cast
 //
 //   all of T1, the low ends of A0 to the high end of A2      m T1
 //   all of T0, from A2 on, what passes A3 being whole turns  m T0 shifted by two columns
-//   of T2 with mh, (mh T2l).hi + mh T2h                      mh T2 without its low 16 bits
-//   of T2 with ml, (ml T2h).hi                               ml T2h without its low 16 bits
-inline UL2 turn_fraction(UL2 m, UL2 mh, UL2 ml, const uint32_t* first_row, const uint32_t* second_row) {
+//   of T2, (mh T2l).hi + mh T2h + (ml T2h).hi                mh T2, then (ml T2h).hi, which a 16 x 16 multiplier
+//                                                            gives, on its column, without the low 16 bits of both
+//
+// Of `raised_ml`, ml stands where T2h does, and all else is zero.
+inline UL2 turn_fraction(UL2 m, UL2 mh, UL2 raised_ml, const uint32_t* first_row, const uint32_t* second_row) {
     __m128i first = _mm_loadu_si128(reinterpret_cast<const __m128i*>(first_row));
     __m128i second = _mm_loadu_si128(reinterpret_cast<const __m128i*>(second_row));
     UL2 t0 = unit_cast<UL2>(_mm_unpacklo_epi64(first, second));  // T1 above T0
     UL2 t2 = unit_cast<UL2>(_mm_unpackhi_epi64(first, second));
-    UL2 t1 = t0 >> 32;
-    UL2 t2h = unit_cast<UL2>(unit_cast<U4>(t2) >> 16);
-    return product(m, t1) + (product(m, t0) << 32) + (product(mh, t2) >> 16) + (product(ml, t2h) >> 16);
+    UL2 t1 = unsigned_lanes(spread_high(unit_cast<I4>(t0)));
+    return product(m, t1) + (product(m, t0) << 32) + ((product(mh, t2) + high_words(t2, raised_ml)) >> 16);
 }
 
 inline TurnFraction<U4> turn_fraction(F4 a, const ReductionfData& data) {
     U4 e = unsigned_lanes(bits(a) & data.magnitude) >> 23;
-    LaneOffsets row = offsets_of(signed_lanes(e + e + e));  // in words
+    LaneOffsets row = offsets_through_memory(signed_lanes(e + e + e));  // in words
     // The implicit bit is added for zeros and subnormals too: their rows are zero.
     I4 m = (bits(a) & data.mantissa) + data.implicit_bit;
     I4 mh = signed_lanes(unsigned_lanes(m) >> 16);
-    I4 ml = m & data.low_half;
-    auto low = [](I4 x) { return unsigned_lanes(double_low(x)); };
-    auto high = [](I4 x) { return unsigned_lanes(double_high(x)); };
-    L2 r01 =
-        signed_lanes(turn_fraction(low(m), low(mh), low(ml), invpi_rows_f + row.lane[0], invpi_rows_f + row.lane[1]));
-    L2 r23 = signed_lanes(
-        turn_fraction(high(m), high(mh), high(ml), invpi_rows_f + row.lane[2], invpi_rows_f + row.lane[3]));
+    I4 raised_ml = m << 16;
+    I4 zero = {};
+    L2 r01 = signed_lanes(turn_fraction(unsigned_lanes(double_low(m)), unsigned_lanes(double_low(mh)),
+                                        unit_cast<UL2>(__builtin_shufflevector(raised_ml, zero, 0, 4, 1, 5)),
+                                        invpi_rows_f + row.lane[0], invpi_rows_f + row.lane[1]));
+    L2 r23 = signed_lanes(turn_fraction(unsigned_lanes(double_high(m)), unsigned_lanes(double_high(mh)),
+                                        unit_cast<UL2>(__builtin_shufflevector(raised_ml, zero, 2, 6, 3, 7)),
+                                        invpi_rows_f + row.lane[2], invpi_rows_f + row.lane[3]));
     return {unsigned_lanes(high_halves(r01, r23)), unsigned_lanes(low_halves(r01, r23))};
 }
 
