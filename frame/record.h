@@ -72,14 +72,13 @@ struct Scalar {
     operator Lane() const { return __builtin_bit_cast(Lane, pattern); }
 };
 
-// The record under an address that the compiler has just learnt. A main path takes its record through this, once:
-// the units of one call then share no constants in registers, of which there are eight and which would spill;
-// each constant is a memory operand where it is used.
+// The record, of which the compiler believes that it may have changed this very moment. A main path takes its record
+// through this, once: the units of one call then share no constants in registers, of which there are eight and which
+// would spill; each constant is a memory operand where it is used, straight off the one base register of the call.
 template <class Record>
 [[gnu::always_inline]] inline const Record& in_memory(const Record& record) {
-    const Record* address = &record;
-    asm volatile("" : "+r"(address));
-    return *address;
+    asm volatile("" : "+m"(const_cast<Record&>(record)));
+    return record;
 }
 
 }  // namespace zorv
