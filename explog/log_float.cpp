@@ -129,17 +129,20 @@ Status log10f_rare(const float* x, float* result) { return logarithm_rare<40>(lo
 
 // ---- Accurate. ---------------------------------------------------------------------------------------------
 
+// In two families the mask is made in front of the polynomial, and opaque, so that it stays there: measured, it is
+// faster so. In log2f it makes no difference.
+
 // Error 0.98 ulp at most, at 0x1.556f9p+0; subnormal operands 1.04.
 struct logf {
     static Lanes<F4> main(F4 x) {
+        // Moved up by one exponent step, zeros and subnormals stand below two steps; so do negative numbers, and
+        // infinity and the NaNs through the wrap.
+        I4 not_positive_normal = opaque(bits(x) + logf_data.smallest_normal < logf_data.twice_smallest_normal);
         const auto& data = in_memory(logf_data);
         auto [k, r] = split(x, data.split);
         F4 q = horner(r, data.c8, data.c7, data.c6, data.c5, data.c4, data.c3, data.c2, data.c1, data.c0);
         F4 s = q * r * r + r;
         F4 y = k * data.ln2_high + (k * data.ln2_low + s);
-        // Moved up by one exponent step, zeros and subnormals stand below two steps; so do negative numbers, and
-        // infinity and the NaNs through the wrap.
-        I4 not_positive_normal = bits(x) + data.smallest_normal < data.twice_smallest_normal;
         return {y, not_positive_normal};
     }
     static constexpr auto rare = logf_rare;
@@ -174,10 +177,11 @@ struct log2f {
 // Error 2.63 ulp at most, at 0x1.555cb4p+0; subnormal operands 0.55.
 struct log10f {
     static Lanes<F4> main(F4 x) {
+        I4 mask = opaque(not_positive_normal(x, log10f_data));
         const auto& data = in_memory(log10f_data);
         auto [k, r] = split(x, data.split);
         F4 a = paired(r, data.log10_e, data);
-        return {(a * r + k * data.log10_2_low) + k * data.log10_2_high, not_positive_normal(x, data)};
+        return {(a * r + k * data.log10_2_low) + k * data.log10_2_high, mask};
     }
     static constexpr auto rare = log10f_rare;
 };
