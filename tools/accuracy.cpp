@@ -195,10 +195,12 @@ std::string markdown_row(const grid::Family& family, const Measured& row, const 
            ulps(row.worst.error) + " | " + number(accuracy::bound_of(family, row.range)) + " |" + where;
 }
 
-// Drawn now, or earlier, beside the file.
-bool has_picture(const Arguments& arguments, const grid::Family& family) {
-    std::string directory = arguments.markdown.substr(0, arguments.markdown.rfind('/') + 1) + "pictures";
-    return !arguments.picture.empty() || std::ifstream(directory + "/accuracy-" + family.name + ".svg").good();
+// The name; a link to the picture where there is one, drawn now or earlier.
+std::string name_cell(const Arguments& arguments, const grid::Family& family) {
+    std::string directory = arguments.markdown.substr(0, arguments.markdown.rfind('/') + 1);
+    std::string picture = "pictures/accuracy-" + family.name + ".svg", quoted = "`" + family.name + "`";
+    bool drawn = !arguments.picture.empty() || std::ifstream(directory + picture).good();
+    return drawn ? "[" + quoted + "](" + picture + ")" : quoted;
 }
 
 // The file keeps its text; its table keeps the rows of the families that were not measured. Rows stand in the grid's
@@ -272,10 +274,12 @@ struct Profile {
     std::string tics() const {
         if (axis != Axis::two_sided) return "set xtics auto";
         std::string list = "set xtics ('0' 0";
-        for (int power = smallest < -200 ? -600 : -80; std::exp2(power) < std::max(-low, high);
-             power += smallest < -200 ? 600 : 80) {
-            std::string two = "2^{" + std::to_string(power) + "}", at = std::to_string(power - smallest);
-            list += ", '" + two + "' " + at + ", '-" + two + "' -" + at;
+        int step = smallest < -200 ? 600 : 80;
+        for (int power : {-step, 0, step}) {
+            char both[100];
+            std::snprintf(both, sizeof both, ", '2^{%d}' %g, '-2^{%d}' %g", power, power - smallest, power,
+                          smallest - power);
+            list += both;
         }
         return list + ")";
     }
@@ -327,9 +331,8 @@ int main(int count, char** words) {
         for (const Measured& row : rows) {
             print(*family, row);
             findings.push_back(row.worst);
-            std::string name = "`" + family->name + "`";
-            if (has_picture(arguments, *family)) name = "[" + name + "](pictures/accuracy-" + family->name + ".svg)";
-            table[family->name].push_back(markdown_row(*family, row, &row == &rows[0] ? name : ""));
+            table[family->name].push_back(
+                markdown_row(*family, row, &row == rows.data() ? name_cell(arguments, *family) : ""));
             double bound = accuracy::bound_of(*family, row.range);
             if (row.worst.error <= bound) continue;
             std::printf("  above the bound of %g ulp\n", bound);

@@ -221,16 +221,16 @@ class Bench {
         std::abort();
     }
 
+    alignas(64) unsigned char operands_[max_operands][128] = {};
+    alignas(64) unsigned char results_[max_results][128] = {};
+    double screened_[16][max_results] = {};
+    reference::Real exact_operands_[max_operands], exact_results_[max_results];
     const grid::Family& family_;
     const reference::Operation& operation_;
     const Range& range_;
     int width_;
     Lane floating_lane_;
     std::vector<Span> spans_;
-    alignas(64) unsigned char operands_[max_operands][128] = {};
-    alignas(64) unsigned char results_[max_results][128] = {};
-    double screened_[16][max_results] = {};
-    reference::Real exact_operands_[max_operands], exact_results_[max_results];
 };
 
 // ---- Sweeps. -------------------------------------------------------------------------------------------------
