@@ -373,6 +373,11 @@ bool can_be_exhaustive(const grid::Family& family) {
 Finding sweep_exhaustive(const grid::Family& family, const Range& range, const Options& options) {
     int width = width_for(range, options);
     Span span(family.operands[0], range.x);
+    // Begun from a sample: where the error only grows, each number would be the worst so far, for MPFR to judge.
+    Options sample = options;
+    sample.watch = {};
+    Finding start = sweep_random(family, range, 1 << 16, false, sample);
+    start.tried = 0;
     constexpr int64_t piece_size = 1 << 20;
     uint64_t pieces = (span.count() + piece_size - 1) / piece_size;
     auto sweep = [&](uint64_t piece, Finding& worst) {
@@ -389,7 +394,7 @@ Finding sweep_exhaustive(const grid::Family& family, const Range& range, const O
         }
         worst.tried = before + static_cast<uint64_t>(last - first + 1);
     };
-    return simplest(family, range, over_pieces(pieces, options, sweep, start_of(family, options)));
+    return simplest(family, range, over_pieces(pieces, options, sweep, start));
 }
 
 // ---- Files of worst operands: a line for each, `range width lane` and the operands' lanes, comma by comma. ----
