@@ -24,7 +24,6 @@
 #define LANE_double_ double
 #define CODE_float_ uint32_t
 #define CODE_double_ uint64_t
-#define VECTOR_1(lane) lane
 #define EXPORT_NAME(base, precision, class_, width) \
     PASTE5(__ocl_zorv_v8_, base, LETTER_##precision, width, CLASS_##class_)
 #define KERNEL_NAME(base, precision, class_) zorv::PASTE(PASTE(base, LETTER_##precision), CLASS_##class_)
