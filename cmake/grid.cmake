@@ -1,23 +1,32 @@
 # The grid (include/grid.def) is written once. grid_outputs includes it and prints what is derived: the two public
-# headers and the README's table, which are committed and compared in the tests, and the linker's version script.
+# headers and the linker's version script, made by every build, and the README's table, committed and compared in the
+# tests.
 add_executable(grid_outputs tools/grid_outputs.cpp)
 target_include_directories(grid_outputs PRIVATE ${PROJECT_SOURCE_DIR})
 
+# What is made into the build folder: the public headers, found there as a user finds them in an installed tree, and
+# the version script.
+set(generated_include ${PROJECT_BINARY_DIR}/include)
 set(version_script ${PROJECT_BINARY_DIR}/ocl_zorv_v8.map)
-add_custom_command(
-  OUTPUT ${version_script}
-  COMMAND grid_outputs version_script > ${version_script}
-  DEPENDS grid_outputs
-  COMMENT "Version script from the grid")
-add_custom_target(version_script_file DEPENDS ${version_script})
-
-# After a change of the grid: cmake --build ... --target headers
+file(MAKE_DIRECTORY ${generated_include})
+function(from_grid what output)
+  add_custom_command(
+    OUTPUT ${output}
+    COMMAND grid_outputs ${what} > ${output}
+    DEPENDS grid_outputs
+    COMMENT "From the grid: ${what}")
+endfunction()
+from_grid(header ${generated_include}/ocl_zorv_v8.h)
+from_grid(builtins ${generated_include}/ocl_zorv_v8_builtins.h)
+from_grid(version_script ${version_script})
 add_custom_target(headers
-  COMMAND grid_outputs header > ${PROJECT_SOURCE_DIR}/include/ocl_zorv_v8.h
-  COMMAND grid_outputs builtins > ${PROJECT_SOURCE_DIR}/include/ocl_zorv_v8_builtins.h
+  DEPENDS ${generated_include}/ocl_zorv_v8.h ${generated_include}/ocl_zorv_v8_builtins.h ${version_script})
+
+# After a change of the grid: cmake --build ... --target readme
+add_custom_target(readme
   COMMAND grid_outputs readme < ${PROJECT_SOURCE_DIR}/README.md > ${PROJECT_BINARY_DIR}/README.md
   COMMAND ${CMAKE_COMMAND} -E copy ${PROJECT_BINARY_DIR}/README.md ${PROJECT_SOURCE_DIR}/README.md
-  COMMENT "Public headers and the README's table from the grid"
+  COMMENT "The README's table from the grid"
   VERBATIM)
 
 # The names of the families that stand, known while configuring: the grid is preprocessed and read.

@@ -3,7 +3,8 @@
 include(CMakePackageConfigHelpers)
 
 install(TARGETS ocl_zorv_v8 EXPORT ocl_zorv_v8 LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR})
-install(FILES include/ocl_zorv_v8.h include/ocl_zorv_v8_builtins.h DESTINATION ${CMAKE_INSTALL_INCLUDEDIR})
+install(FILES ${generated_include}/ocl_zorv_v8.h ${generated_include}/ocl_zorv_v8_builtins.h
+  DESTINATION ${CMAKE_INSTALL_INCLUDEDIR})
 
 # The package stands where a search finds it whatever architecture CMake believes in: there is one alone.
 set(package_folder lib/cmake/ocl_zorv_v8)

@@ -1,10 +1,9 @@
 # The product: one file, __ocl_zorv_v8.so, that depends on nothing.
-file(GLOB library_sources CONFIGURE_DEPENDS RELATIVE ${PROJECT_SOURCE_DIR}
-  data/*.cpp quotients/*.cpp exact/*.cpp conversions/*.cpp explog/*.cpp trig/*.cpp)
-add_library(ocl_zorv_v8 SHARED ${library_sources})
+include(cmake/kernels.cmake)
+add_library(ocl_zorv_v8 SHARED ${kernel_sources})
 target_include_directories(ocl_zorv_v8
-  PRIVATE ${PROJECT_SOURCE_DIR}
-  INTERFACE $<BUILD_INTERFACE:${PROJECT_SOURCE_DIR}/include> $<INSTALL_INTERFACE:${CMAKE_INSTALL_INCLUDEDIR}>)
+  PRIVATE ${PROJECT_SOURCE_DIR} ${generated_include}
+  INTERFACE $<BUILD_INTERFACE:${generated_include}> $<INSTALL_INTERFACE:${CMAKE_INSTALL_INCLUDEDIR}>)
 # Vector operands travel in vector registers only where the caller's compiler may use them.
 target_compile_options(ocl_zorv_v8 INTERFACE $<INSTALL_INTERFACE:-msse2>)
 target_compile_options(ocl_zorv_v8 PRIVATE
@@ -14,4 +13,4 @@ target_link_options(ocl_zorv_v8 PRIVATE
   -Wl,--version-script=${version_script})
 set_target_properties(ocl_zorv_v8 PROPERTIES
   PREFIX "" OUTPUT_NAME __ocl_zorv_v8 LINK_DEPENDS ${version_script} NO_SONAME OFF)
-add_dependencies(ocl_zorv_v8 version_script_file)
+add_dependencies(ocl_zorv_v8 headers)

@@ -5,8 +5,7 @@ if(NOT CLANG_FORMAT OR NOT CLANG_TIDY)
   message(FATAL_ERROR "ZORV_STYLE needs clang-format and clang-tidy (Debian: apt-get install clang-format clang-tidy)")
 endif()
 
-set(style_folders data frame quotients exact conversions explog powers trig invtrig hyperbolic special tools tests bench
-    examples)
+set(style_folders frame kernels tools tests bench examples)
 list(TRANSFORM style_folders APPEND "/*.h" OUTPUT_VARIABLE header_patterns)
 list(TRANSFORM style_folders APPEND "/*.cpp" OUTPUT_VARIABLE source_patterns)
 file(GLOB_RECURSE style_headers CONFIGURE_DEPENDS ${header_patterns})

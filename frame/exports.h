@@ -1,43 +1,24 @@
-// Exports of the families that live in the including source: its rows of the grid become six functions each.
-// The source defines HOME_<its name> as `, here` and includes this file last.
-//
-//   #define HOME_exp_float , here
-//   #include "frame/exports.h"
+// Exports of the families that live in the including source: its rows of the grid become six functions each. A
+// source of kernels includes this file last, after its namespaces. Which source it is, it is told by the build, which
+// defines HOME_<name of the source> as `,here`.
 #include "frame/lane_frame.h"
-#include "include/ocl_zorv_v8.h"
-
-#define PASTE(a, b) PASTE_(a, b)
-#define PASTE_(a, b) a##b
-#define PASTE5(a, b, c, d, e) PASTE5_(a, b, c, d, e)
-#define PASTE5_(a, b, c, d, e) a##b##c##d##e
+#include "include/grid_names.h"
+#include "ocl_zorv_v8.h"
 
 // Rows of another home leave nothing: HOME_other stays one unknown word, HOME_here brings a second argument.
 #define IS_HERE(home) SECOND_OF(HOME_##home, elsewhere, )
 #define SECOND_OF(...) SECOND_OF_(__VA_ARGS__)
 #define SECOND_OF_(first, second, ...) second
 
-#define LETTER_float_ f
-#define LETTER_double_
-#define CLASS_accurate
-#define CLASS_native _native
-#define LANE_float_ float
-#define LANE_double_ double
 #define CODE_float_ uint32_t
 #define CODE_double_ uint64_t
-#define EXPORT_NAME(base, precision, class_, width) \
-    PASTE5(__ocl_zorv_v8_, base, LETTER_##precision, width, CLASS_##class_)
-#define KERNEL_NAME(base, precision, class_) zorv::PASTE(PASTE(base, LETTER_##precision), CLASS_##class_)
+#define KERNEL_NAME(base, precision, class_) zorv::FAMILY_NAME(base, precision, class_)
 
-#define FAMILY(base, precision, class_, signature, home, bound) \
+#define FAMILY(base, precision, class_, signature, home, traits, bound) \
     PASTE(ROW_, IS_HERE(home))(base, precision, class_, signature)
 #define ROW_elsewhere(base, precision, class_, signature)
 #define ROW_here(base, precision, class_, signature) \
-    EXPORT(base, precision, class_, signature, 1)    \
-    EXPORT(base, precision, class_, signature, 2)    \
-    EXPORT(base, precision, class_, signature, 3)    \
-    EXPORT(base, precision, class_, signature, 4)    \
-    EXPORT(base, precision, class_, signature, 8)    \
-    EXPORT(base, precision, class_, signature, 16)
+    FOR_EACH_WIDTH(EXPORT, base, precision, class_, signature)
 #define EXPORT(base, precision, class_, signature, width)                                                            \
     EXPORT_##signature(EXPORT_NAME(base, precision, class_, width), KERNEL_NAME(base, precision, class_), precision, \
                        width)

@@ -7,7 +7,8 @@
 #include <type_traits>
 #include <utility>
 
-#include "include/ocl_zorv_v8.h"
+#include "include/grid_names.h"
+#include "ocl_zorv_v8.h"
 
 namespace grid {
 namespace {
@@ -84,22 +85,14 @@ void describe(Family& family, Result (*)(Operands...)) {
     (each(std::type_identity<Operands>()), ...);
 }
 
-#define LETTER_float_ f
-#define LETTER_double_
-#define CLASS_accurate
-#define CLASS_native _native
-#define PASTE5(a, b, c, d, e) PASTE5_(a, b, c, d, e)
-#define PASTE5_(a, b, c, d, e) a##b##c##d##e
-#define TEXT(name) TEXT_(name)
-#define TEXT_(name) #name
-#define EXPORT(base, precision, class_, width) PASTE5(__ocl_zorv_v8_, base, LETTER_##precision, width, CLASS_##class_)
+#define EXPORT(base, precision, class_, width) EXPORT_NAME(base, precision, class_, width)
 #ifdef GRID_CALLS_THROUGH_OPENCL
 // The calls made by an object compiled from OpenCL C, in place of the ones made here.
 #define OPENCL(base, precision, class_, width) PASTE5(opencl_, base, LETTER_##precision, width, CLASS_##class_)
 #define THUNK(base, precision, class_, width, pair) OPENCL(base, precision, class_, width)
 #define DECLARE(base, precision, class_, width) \
     extern "C" void OPENCL(base, precision, class_, width)(const void* const*, void* const*);
-#define FAMILY(base, precision, class_, signature, home, bound) \
+#define FAMILY(base, precision, class_, signature, home, traits, bound) \
     DECLARE(base, precision, class_, 1)                         \
     DECLARE(base, precision, class_, 2)                         \
     DECLARE(base, precision, class_, 3)                         \
@@ -114,7 +107,7 @@ void describe(Family& family, Result (*)(Operands...)) {
 
 std::vector<Family> make_families() {
     std::vector<Family> list;
-#define FAMILY(base, precision, class_, signature, home, bound)                                                  \
+#define FAMILY(base, precision, class_, signature, home, traits, bound)                                                  \
     {                                                                                                            \
         [[maybe_unused]] constexpr bool pair = std::string_view(#signature) == "pair_result";                    \
         Family family = {TEXT(PASTE5(base, LETTER_##precision, CLASS_##class_, , )),                             \

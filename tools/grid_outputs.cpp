@@ -34,7 +34,7 @@ struct Family {
 };
 
 const std::vector<Family> families = {
-#define FAMILY(base, precision, class_, signature, home, bound) {#base, #precision, #class_, #signature, bound},
+#define FAMILY(base, precision, class_, signature, home, traits, bound) {#base, #precision, #class_, #signature, bound},
 #include "include/grid.def"
 };
 
@@ -489,7 +489,7 @@ void print_families() {
         std::printf(
             "\nBeside these stand %zu conversions between `float` or `double` and `int`, `uint`, `long` or `ulong`, in "
             "four\nroundings; to integers with and without saturation. Their errors stand in "
-            "[the header](include/ocl_zorv_v8.h).\n",
+            "the header `ocl_zorv_v8.h`.\n",
             standing_conversions);
 }
 

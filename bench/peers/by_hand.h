@@ -2,7 +2,7 @@
 // without a frame. The mask of rare lanes is tested, but nothing stands behind it.
 #pragma once
 
-#include "include/ocl_zorv_v8.h"
+#include "ocl_zorv_v8.h"
 
 //   BY_HAND(base, letter, width, result, operands...)
 #define BY_HAND_FUNCTIONS                                   \

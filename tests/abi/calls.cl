@@ -1,15 +1,8 @@
 // Every standing export called from OpenCL C: the callers that the library is for. One function an export, with the
 // signature of grid::Call, so that the tests can run through these instead of the C++ calls.
-#include "include/ocl_zorv_v8.h"
+#include "include/grid_names.h"
+#include "ocl_zorv_v8.h"
 
-#define PASTE5(a, b, c, d, e) PASTE5_(a, b, c, d, e)
-#define PASTE5_(a, b, c, d, e) a##b##c##d##e
-#define LETTER_float_ f
-#define LETTER_double_
-#define CLASS_accurate
-#define CLASS_native _native
-#define LANE_float_ float
-#define LANE_double_ double
 #define CODE_float_ uint
 #define CODE_double_ ulong
 
@@ -59,13 +52,13 @@
 #define CALL_from_i64(call, f, code, w) ONE(call, f, long, w)
 #define CALL_from_u64(call, f, code, w) ONE(call, f, ulong, w)
 
-#define EXPORT(base, precision, class_, width) PASTE5(__ocl_zorv_v8_, base, LETTER_##precision, width, CLASS_##class_)
+#define EXPORT(base, precision, class_, width) EXPORT_NAME(base, precision, class_, width)
 #define CALLER(base, precision, class_, signature, width)                                                    \
     void PASTE5(opencl_, base, LETTER_##precision, width, CLASS_##class_)(private const void* private* operands, \
                                                                           private void* private* results) {   \
         CALL_##signature(EXPORT(base, precision, class_, width), LANE_##precision, CODE_##precision, width)   \
     }
-#define FAMILY(base, precision, class_, signature, home, bound) \
+#define FAMILY(base, precision, class_, signature, home, traits, bound) \
     CALLER(base, precision, class_, signature, 1)               \
     CALLER(base, precision, class_, signature, 2)               \
     CALLER(base, precision, class_, signature, 3)               \

@@ -1,5 +1,5 @@
 // The reduction of huge arguments against exact integer and MPFR arithmetic.
-#include "trig/reduction.h"
+#include "kernels/trig/reduction.h"
 
 #include <gmp.h>
 #include <gtest/gtest.h>

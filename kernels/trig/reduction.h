@@ -9,7 +9,7 @@
 // Branch-free, all lanes at once; the only gather is one row of the table for each lane.
 #pragma once
 
-#include "data/reduction.h"
+#include "kernels/trig/reduction_data.h"
 #include "frame/gather.h"
 
 namespace zorv {

@@ -14,7 +14,7 @@
 // The accurate families are right for every positive normal number; whatever else is rare and goes through a
 // complete scalar logarithm of another make. The native families do not look: the pattern of a zero, a negative
 // number, an infinity or a NaN is split like any other.
-#include "data/explog_float.h"
+#include "kernels/explog/explog_float_data.h"
 #include "frame/lane_frame.h"
 
 namespace zorv {
@@ -222,5 +222,4 @@ struct log10f_native {
 }  // namespace
 }  // namespace zorv
 
-#define HOME_log_float , here
 #include "frame/exports.h"

@@ -1,4 +1,4 @@
-#include "data/quotients.h"
+#include "kernels/quotients/quotients_data.h"
 
 namespace zorv {
 
@@ -93,11 +93,11 @@ const RsqrtNativeData rsqrt_native_data = {
 };
 
 const double SQRT_SEED[512] = {
-#include "data/tables/sqrt_seed.inc"
+#include "kernels/quotients/tables/sqrt_seed.inc"
 };
 
 const double RSQRT_SEED[65] = {
-#include "data/tables/rsqrt_seed.inc"
+#include "kernels/quotients/tables/rsqrt_seed.inc"
 };
 
 }  // namespace zorv

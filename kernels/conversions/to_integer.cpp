@@ -1,8 +1,8 @@
 // float and double to int, uint, long and ulong: a rounding stage, which keeps the lanes floating, then a conversion
 // stage, whose operand y is integral, infinite or NaN. Neither knows of the other; every pair of them is a family,
 // and the grid's rows at the end of this file make the pairs. Exact for every operand in the target's range.
-#include "data/conversions.h"
-#include "exact/integral.h"
+#include "kernels/conversions/conversions_data.h"
+#include "kernels/exact/integral.h"
 #include "frame/lane_frame.h"
 
 namespace zorv {
@@ -222,5 +222,4 @@ struct ToInteger<F4, cvtfptoi32f_data, ToI32_nosat, TowardZero> {
 }  // namespace
 }  // namespace zorv
 
-#define HOME_to_integer , here
 #include "frame/exports.h"

@@ -9,9 +9,9 @@
 //
 // Rare: infinities and NaN, on the long path of the accurate class. A NaN with no lane beyond the limit comes out of
 // the short path's arithmetic; the native class returns what the long path's arithmetic makes of an infinity.
-#include "data/trig_float.h"
+#include "kernels/trig/sincos_float_data.h"
 #include "frame/lane_frame.h"
-#include "trig/reduction.h"
+#include "kernels/trig/reduction.h"
 
 namespace zorv {
 namespace {
@@ -227,5 +227,4 @@ using sincosregf_native = SineAndCosine<sincosregf_native_data, LongSineAndCosin
 }  // namespace
 }  // namespace zorv
 
-#define HOME_sincos_float , here
 #include "frame/exports.h"

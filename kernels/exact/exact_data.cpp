@@ -1,4 +1,4 @@
-#include "data/exact.h"
+#include "kernels/exact/exact_data.h"
 
 namespace zorv {
 

@@ -4,8 +4,8 @@
 //
 // The records hold one or two integers, which all units of a call share in registers: kernels this short would pay
 // for a memory operand in each unit.
-#include "data/exact.h"
-#include "exact/special.h"
+#include "kernels/exact/exact_data.h"
+#include "kernels/exact/special.h"
 #include "frame/lane_frame.h"
 
 namespace zorv {
@@ -146,5 +146,4 @@ using mad = Mad<D2>;
 }  // namespace
 }  // namespace zorv
 
-#define HOME_selection , here
 #include "frame/exports.h"

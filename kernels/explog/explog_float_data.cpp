@@ -1,4 +1,4 @@
-#include "data/explog_float.h"
+#include "kernels/explog/explog_float_data.h"
 
 namespace zorv {
 
@@ -44,7 +44,7 @@ const Exp10fData exp10f_data = {
     .last_ordinary = 0x4217b818,   // 37.92978: 10^-x is still normal
     .powers =
         {
-#include "data/tables/exp10f_powers.inc"
+#include "kernels/explog/tables/exp10f_powers.inc"
         },
 };
 
@@ -247,7 +247,7 @@ const LogfRareData logf_rare_data = {
     .ln2 = {0x3f317218},              // 0.6931472
     .rows =
         {
-#include "data/tables/logf_rare.inc"
+#include "kernels/explog/tables/logf_rare.inc"
         },
 };
 
@@ -265,7 +265,7 @@ const Log2fRareData log2f_rare_data = {
     .p0 = {0xbf7f0000},               // -0.99609375
     .rows =
         {
-#include "data/tables/log2f_rare.inc"
+#include "kernels/explog/tables/log2f_rare.inc"
         },
 };
 
@@ -285,7 +285,7 @@ const Log10fRareData log10f_rare_data = {
     .log10_2_low = {0x39826a14},      // 0.00024874567
     .rows =
         {
-#include "data/tables/log10f_rare.inc"
+#include "kernels/explog/tables/log10f_rare.inc"
         },
 };
 

@@ -239,5 +239,4 @@ using fma = Fma<D2>;
 }  // namespace
 }  // namespace zorv
 
-#define HOME_fma , here
 #include "frame/exports.h"

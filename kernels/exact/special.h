@@ -1,7 +1,7 @@
 // Operands that are infinite or NaN: nothing but ones in the exponent field.
 #pragma once
 
-#include "data/exact.h"
+#include "kernels/exact/exact_data.h"
 #include "frame/units.h"
 
 namespace zorv {

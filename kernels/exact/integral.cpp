@@ -1,9 +1,9 @@
 // ceil, floor, round, trunc, rint, nearbyint, modf and fract. All exact: no branch, no table, the rounding steps of
 // exact/integral.h. The bare families are complete for every operand; modf and fract repair infinities and NaN.
-#include "exact/integral.h"
+#include "kernels/exact/integral.h"
 
-#include "data/exact.h"
-#include "exact/special.h"
+#include "kernels/exact/exact_data.h"
+#include "kernels/exact/special.h"
 #include "frame/lane_frame.h"
 
 namespace zorv {
@@ -124,5 +124,4 @@ using fract = Fract<D2, fract_data>;
 }  // namespace
 }  // namespace zorv
 
-#define HOME_integral , here
 #include "frame/exports.h"

@@ -1,4 +1,4 @@
-#include "data/trig_float.h"
+#include "kernels/trig/sincos_float_data.h"
 
 namespace zorv {
 
@@ -68,7 +68,7 @@ const TurnSinefData turn_sinef_data = {
 };
 
 alignas(64) const float turn_table_f[320 * turn_row] = {
-#include "data/tables/turn_table_f.inc"
+#include "kernels/trig/tables/turn_table_f.inc"
 };
 
 }  // namespace zorv

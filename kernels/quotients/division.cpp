@@ -4,7 +4,7 @@
 // divide has already given.
 // Native: in single precision the hardware's reciprocal estimate, never a divide; in double one divide for four
 // units at the widths that fill such a batch, and at width 1 the same steps.
-#include "data/quotients.h"
+#include "kernels/quotients/quotients_data.h"
 #include "frame/lane_frame.h"
 
 namespace zorv {
@@ -121,5 +121,4 @@ struct div_native {
 }  // namespace
 }  // namespace zorv
 
-#define HOME_division , here
 #include "frame/exports.h"

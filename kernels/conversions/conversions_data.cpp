@@ -1,4 +1,4 @@
-#include "data/conversions.h"
+#include "kernels/conversions/conversions_data.h"
 
 namespace zorv {
 

@@ -3,7 +3,7 @@
 // Single precision starts from the hardware's reciprocal square root estimate; double rsqrt rebuilds its operand as
 // a float to use the same estimate; double sqrt is the hardware's. No main path divides. What is not a positive,
 // normal, finite number is rare and goes through a complete scalar algorithm in double precision.
-#include "data/quotients.h"
+#include "kernels/quotients/quotients_data.h"
 #include "frame/lane_frame.h"
 
 namespace zorv {
@@ -247,5 +247,4 @@ struct rsqrt_native {
 }  // namespace
 }  // namespace zorv
 
-#define HOME_square_roots , here
 #include "frame/exports.h"

@@ -14,7 +14,7 @@
 // of the sum's pattern. 2^k is an integer addition to the exponent field of P(r), with no test. The accurate
 // families are exact in that only while the result is a normal number; what lies beyond, infinities and NaN are
 // rare. The native families do not look: a lane out of range wraps, an infinity becomes NaN.
-#include "data/explog_float.h"
+#include "kernels/explog/explog_float_data.h"
 #include "frame/gather.h"
 #include "frame/lane_frame.h"
 
@@ -190,5 +190,4 @@ struct exp10f_native {
 }  // namespace
 }  // namespace zorv
 
-#define HOME_exp_float , here
 #include "frame/exports.h"

@@ -9,7 +9,7 @@
 //   u64, i64 to double     two pieces of 52 bits; to nearest, the two halves as they stand
 //   u64, i64 to float      three pieces of 23 bits
 //   u32, i32 to double     exact, all roundings alike
-#include "data/conversions.h"
+#include "kernels/conversions/conversions_data.h"
 #include "frame/lane_frame.h"
 
 namespace zorv {
@@ -266,5 +266,4 @@ struct Words<Units, words_record, rtn> : NearestOfTwoWords<Units, words_record> 
 }  // namespace
 }  // namespace zorv
 
-#define HOME_from_integer , here
 #include "frame/exports.h"

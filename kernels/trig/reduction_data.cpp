@@ -1,4 +1,4 @@
-#include "data/reduction.h"
+#include "kernels/trig/reduction_data.h"
 
 namespace zorv {
 
@@ -43,11 +43,11 @@ const ReductiondData reductiond_data = {
 };
 
 alignas(64) const uint32_t invpi_rows_f[256 * 3 + 1] = {
-#include "data/tables/invpi_rows_f.inc"
+#include "kernels/trig/tables/invpi_rows_f.inc"
 };
 
 alignas(64) const uint64_t invpi_rows_d[2048 * 3 + 1] = {
-#include "data/tables/invpi_rows_d.inc"
+#include "kernels/trig/tables/invpi_rows_d.inc"
 };
 
 }  // namespace zorv

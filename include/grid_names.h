@@ -1,0 +1,47 @@
+// What the words in the grid's rows turn into: names, lanes, traits. For whoever includes include/grid.def.
+#pragma once
+
+#define PASTE(a, b) PASTE_(a, b)
+#define PASTE_(a, b) a##b
+#define PASTE5(a, b, c, d, e) PASTE5_(a, b, c, d, e)
+#define PASTE5_(a, b, c, d, e) a##b##c##d##e
+#define TEXT(name) TEXT_(name)
+#define TEXT_(name) #name
+
+#define LETTER_float_ f
+#define LETTER_double_
+#define CLASS_accurate
+#define CLASS_native _native
+#define LANE_float_ float
+#define LANE_double_ double
+
+// sqrtf_native, and __ocl_zorv_v8_sqrtf4_native.
+#define FAMILY_NAME(base, precision, class_) PASTE5(base, LETTER_##precision, CLASS_##class_, , )
+#define EXPORT_NAME(base, precision, class_, width) \
+    PASTE5(__ocl_zorv_v8_, base, LETTER_##precision, width, CLASS_##class_)
+
+// One macro for each width.
+#define FOR_EACH_WIDTH(macro, ...) \
+    macro(__VA_ARGS__, 1) macro(__VA_ARGS__, 2) macro(__VA_ARGS__, 3) macro(__VA_ARGS__, 4) macro(__VA_ARGS__, 8) \
+        macro(__VA_ARGS__, 16)
+
+#ifdef __cplusplus
+namespace grid {
+
+// The grid's column `traits`: these, or several joined by |.
+enum Traits : unsigned {
+    plain = 0,
+    batched = 1,    // at widths 1, 8, 16 four units share one divide: a lane's last bits depend on its neighbours
+    coupled = 2,    // one lane beyond the short path's reach sends all lanes of its call down the long path
+    all_rare = 4,   // every lane goes through the scalar routine
+    estimate = 8,   // the last bits depend on the processor's rcpps or rsqrtps
+    extended = 16,  // the scalar routine computes in the x87 unit's 80-bit format
+    fill_one = 32,  // at width 3 the first operand's lane 3 is filled with 1, in place of 0.75
+    fill_two = 64,  // with 2
+};
+constexpr Traits operator|(Traits x, Traits y) {
+    return static_cast<Traits>(static_cast<unsigned>(x) | static_cast<unsigned>(y));
+}
+
+}  // namespace grid
+#endif
