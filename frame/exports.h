@@ -17,8 +17,7 @@
 #define FAMILY(base, precision, class_, signature, home, traits, bound) \
     PASTE(ROW_, IS_HERE(home))(base, precision, class_, signature)
 #define ROW_elsewhere(base, precision, class_, signature)
-#define ROW_here(base, precision, class_, signature) \
-    FOR_EACH_WIDTH(EXPORT, base, precision, class_, signature)
+#define ROW_here(base, precision, class_, signature) FOR_EACH_WIDTH(EXPORT, base, precision, class_, signature)
 #define EXPORT(base, precision, class_, signature, width)                                                            \
     EXPORT_##signature(EXPORT_NAME(base, precision, class_, width), KERNEL_NAME(base, precision, class_), precision, \
                        width)

@@ -83,4 +83,27 @@ inline Columns gather_rows(const float* table, LaneOffsets at) {
     return {{row0, row1, row2, row3}};
 }
 
+// Rows of doubles, aligned to 16 bytes, two columns side by side: one load for each lane, and unpacking.
+struct ColumnPair {
+    D2 first, second;
+};
+inline ColumnPair gather_pair(const double* columns, LaneOffsets2 at) {
+    __m128d row0 = _mm_load_pd(&load_at(columns, at.lane[0])), row1 = _mm_load_pd(&load_at(columns, at.lane[1]));
+    return {_mm_unpacklo_pd(row0, row1), _mm_unpackhi_pd(row0, row1)};
+}
+
+// Four float lanes that read rows of doubles: lanes 0 and 1 in the low unit, 2 and 3 in the high one.
+inline D4 gather_wide(const double* column, LaneOffsets at) {
+    return {gather(column, LaneOffsets2{{at.lane[0], at.lane[1]}}),
+            gather(column, LaneOffsets2{{at.lane[2], at.lane[3]}})};
+}
+struct WideColumnPair {
+    D4 first, second;
+};
+inline WideColumnPair gather_wide_pair(const double* columns, LaneOffsets at) {
+    ColumnPair low = gather_pair(columns, LaneOffsets2{{at.lane[0], at.lane[1]}});
+    ColumnPair high = gather_pair(columns, LaneOffsets2{{at.lane[2], at.lane[3]}});
+    return {{low.first, high.first}, {low.second, high.second}};
+}
+
 }  // namespace zorv

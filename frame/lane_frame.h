@@ -24,18 +24,10 @@
 #include <type_traits>
 #include <utility>
 
+#include "frame/status.h"
 #include "frame/units.h"
 
 namespace zorv {
-
-// What a rare routine reports. The frame drops it: the code is the routine's contract, not the caller's.
-enum Status : int32_t {
-    RARE_OK = 0,         // no exceptional condition; a NaN from a NaN
-    RARE_DOMAIN = 1,     // operand outside the domain
-    RARE_POLE = 2,       // exact infinity from finite operands
-    RARE_OVERFLOW = 3,   // finite result too large
-    RARE_UNDERFLOW = 4,  // result below the normal range
-};
 
 #define ALWAYS_INLINE [[gnu::always_inline]] inline
 // Calls written in the body are inlined, so that a kernel's main path becomes part of the export.

@@ -128,6 +128,24 @@ inline L2 double_high(I4 x) { return from_halves(__builtin_shufflevector(x, x, 2
 // Each high half copied over its low half: a compare of high halves as a mask of whole lanes.
 inline L2 spread_high(I4 x) { return from_halves(__builtin_shufflevector(x, x, 1, 1, 3, 3)); }
 
+// Compares of the high halves alone, signed, as masks of whole lanes. The low halves of the operands do not count.
+inline L2 high_above(L2 x, I4 bound) { return spread_high(halves(x) > bound); }
+inline L2 high_below(L2 x, I4 bound) { return spread_high(halves(x) < bound); }
+
+// A non-negative integer below 2^52 in each 64-bit lane, as a double: as the low mantissa bits of 2^52, which is then
+// taken off. `two_to_52` is that number's pattern.
+inline D2 small_integer_to_double(L2 x, D2 two_to_52) { return as_double(x | bits(two_to_52)) - two_to_52; }
+
+// ---- Between four float lanes and two double units. --------------------------------------------------------
+
+inline D4 widen(F4 x) { return {_mm_cvtps_pd(x), _mm_cvtps_pd(_mm_movehl_ps(x, x))}; }
+inline F4 narrow(D4 x) { return _mm_movelh_ps(_mm_cvtpd_ps(x.low), _mm_cvtpd_ps(x.high)); }
+
+// The hardware's float estimates for double lanes: rounded to float, estimated, widened. Beyond the floats' range they
+// give what that range gives.
+inline D2 reciprocal_estimate(D2 x) { return _mm_cvtps_pd(_mm_rcp_ps(_mm_cvtpd_ps(x))); }
+inline D2 rsqrt_estimate(D2 x) { return _mm_cvtps_pd(_mm_rsqrt_ps(_mm_cvtpd_ps(x))); }
+
 // ---- Values that the compiler must not see through. --------------------------------------------------------
 
 // The same value, of which the compiler knows nothing: arithmetic on it happens at run time, raises its flags

@@ -21,7 +21,7 @@
     PASTE5(__ocl_zorv_v8_, base, LETTER_##precision, width, CLASS_##class_)
 
 // One macro for each width.
-#define FOR_EACH_WIDTH(macro, ...) \
+#define FOR_EACH_WIDTH(macro, ...)                                                                                \
     macro(__VA_ARGS__, 1) macro(__VA_ARGS__, 2) macro(__VA_ARGS__, 3) macro(__VA_ARGS__, 4) macro(__VA_ARGS__, 8) \
         macro(__VA_ARGS__, 16)
 

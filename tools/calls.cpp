@@ -93,11 +93,11 @@ void describe(Family& family, Result (*)(Operands...)) {
 #define DECLARE(base, precision, class_, width) \
     extern "C" void OPENCL(base, precision, class_, width)(const void* const*, void* const*);
 #define FAMILY(base, precision, class_, signature, home, traits, bound) \
-    DECLARE(base, precision, class_, 1)                         \
-    DECLARE(base, precision, class_, 2)                         \
-    DECLARE(base, precision, class_, 3)                         \
-    DECLARE(base, precision, class_, 4)                         \
-    DECLARE(base, precision, class_, 8)                         \
+    DECLARE(base, precision, class_, 1)                                 \
+    DECLARE(base, precision, class_, 2)                                 \
+    DECLARE(base, precision, class_, 3)                                 \
+    DECLARE(base, precision, class_, 4)                                 \
+    DECLARE(base, precision, class_, 8)                                 \
     DECLARE(base, precision, class_, 16)
 #include "include/grid.def"
 #else
@@ -107,14 +107,15 @@ void describe(Family& family, Result (*)(Operands...)) {
 
 std::vector<Family> make_families() {
     std::vector<Family> list;
-#define FAMILY(base, precision, class_, signature, home, traits, bound)                                                  \
+#define FAMILY(base, precision, class_, signature, home, traits, bound)                                          \
     {                                                                                                            \
         [[maybe_unused]] constexpr bool pair = std::string_view(#signature) == "pair_result";                    \
-        Family family = {TEXT(PASTE5(base, LETTER_##precision, CLASS_##class_, , )),                             \
+        Family family = {TEXT(FAMILY_NAME(base, precision, class_)),                                             \
                          #base,                                                                                  \
                          #signature,                                                                             \
                          std::string_view(#precision) == "float_",                                               \
                          std::string_view(#class_) == "native",                                                  \
+                         traits,                                                                                 \
                          bound,                                                                                  \
                          {},                                                                                     \
                          {},                                                                                     \

@@ -8,6 +8,8 @@
 #include <string>
 #include <vector>
 
+#include "include/grid_names.h"
+
 namespace grid {
 
 enum class Lane { f32, f64, i32, u32, i64, u64 };
@@ -24,12 +26,14 @@ using Call = void (*)(const void* const* operands, void* const* results);
 struct Family {
     std::string name, base, signature;
     bool is_single, is_native;
+    Traits traits;
     double bound;  // ulp, from the grid
     std::vector<Lane> operands, results;
     bool second_through_pointer;
     std::array<Call, 6> calls;           // by index in `widths`
     std::array<std::string, 6> exports;  // their names
 
+    bool is(Traits trait) const { return (traits & trait) != 0; }
     Call call(int width) const;
     const std::string& export_name(int width) const;
 };

@@ -57,7 +57,7 @@ struct About {
     string special, method;
 };
 const std::map<string, About> abouts = {
-#define ABOUT(base, class_, special, method) {#base " " #class_, {special, method}},
+#define ABOUT(base, precision, class_, special, method) {#base " " #precision " " #class_, {special, method}},
 #include "include/operations.def"
 };
 
@@ -109,9 +109,11 @@ About about(const Family& family) {
                     " of range and NaN give the lowest signed integer's pattern.",
                 "Rounded by a shifter, then converted exactly."};
     }
-    if (auto found = abouts.find(family.base + " " + family.accuracy_class); found != abouts.end())
-        return found->second;
-    std::fprintf(stderr, "no ABOUT for %s %s\n", family.base.c_str(), family.accuracy_class.c_str());
+    for (const string& precision : {family.precision, string("both")})
+        if (auto found = abouts.find(family.base + " " + precision + " " + family.accuracy_class);
+            found != abouts.end())
+            return found->second;
+    std::fprintf(stderr, "no ABOUT for %s\n", family.name().c_str());
     std::exit(1);
 }
 

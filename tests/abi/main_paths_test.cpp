@@ -69,11 +69,6 @@ class EveryExport : public testing::TestWithParam<grid::Family> {};
 INSTANTIATE_TEST_SUITE_P(Grid, EveryExport, testing::ValuesIn(grid::families()),
                          [](const auto& info) { return info.param.name; });
 
-// Every lane of these goes through the scalar routine: their exports are the cold part.
-bool all_rare(const grid::Family& family) {
-    static const std::set<std::string> bases = {"fma", "tgamma", "lgamma", "lgammar"};
-    return bases.contains(family.base);
-}
 bool returns_through_pointer(const grid::Family& family, int width) {
     return family.signature == "pair_result" ? width > 1 : width * grid::size_of(family.results[0]) > 64;
 }
@@ -97,7 +92,7 @@ TEST_P(EveryExport, HasABareMainPath) {
                 EXPECT_TRUE(is_spill || stores_results) << name << " stores: " << i.mnemonic << " " << i.operands;
             }
         }
-        if (all_rare(family)) continue;
+        if (family.is(grid::all_rare)) continue;
         EXPECT_EQ(1, returns) << name;
         EXPECT_EQ(0, calls) << name;
         EXPECT_LE(conditional_jumps, 1) << name;

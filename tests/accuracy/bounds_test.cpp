@@ -50,8 +50,9 @@ TEST_P(Bounds, AreReachedByTheWorstOperandsKnown) {
         EXPECT_LE(finding.error, accuracy::bound_of(family, *range)) << std::hex << finding.operand(0);
         worst = std::max(worst, finding.error);
     }
-    // Exact and correctly rounded families need no witness; a product and a sum have no bound.
-    if (family.bound > 0.5 && std::isfinite(family.bound))
+    // Exact and correctly rounded families need no witness; a product and a sum have no bound; and what is worst for
+    // one processor's estimate is not for another's.
+    if (family.bound > 0.5 && std::isfinite(family.bound) && !family.is(grid::estimate | grid::batched))
         EXPECT_GE(worst, share * family.bound)
             << "a loose bound, or worst operands to be found anew: accuracy " << family.name << " --worst tests/worst";
 }

@@ -3,7 +3,6 @@
 
 #include <algorithm>
 #include <iterator>
-#include <set>
 
 #include "tests/harness/lanes.h"
 #include "tests/harness/operands.h"
@@ -17,13 +16,7 @@ class EveryFamily : public testing::TestWithParam<Family> {};
 class EveryFamilyOfIndependentLanes : public testing::TestWithParam<Family> {};
 class EveryFamilyWithAPointer : public testing::TestWithParam<Family> {};
 
-// Families in which a lane's last bits depend, by design, on its neighbours.
-bool batched(const Family& family) { return family.name == "inv_native" || family.name == "div_native"; }
-bool has_whole_vector_choice(const Family& family) {
-    static const std::set<std::string> bases = {"sin", "cos", "sincos", "sincosreg", "tan"};
-    return bases.contains(family.base);
-}
-bool lanes_are_independent(const Family& family) { return !batched(family) && !has_whole_vector_choice(family); }
+bool lanes_are_independent(const Family& family) { return !family.is(grid::batched | grid::coupled); }
 
 template <class Choose>
 std::vector<Family> families_where(Choose choose) {
@@ -78,7 +71,7 @@ TEST_P(EveryFamily, GivesTheSameBitsAtEveryWidth) {
             // Neighbours equal to the lane itself: then every width has the same choice to make, but that a batch
             // is not used at widths 2, 3 and 4.
             for (auto [narrow, wide] : {std::pair{1, 8}, {1, 16}, {2, 3}, {2, 4}, {1, 2}}) {
-                if (batched(family) && narrow == 1 && wide == 2) continue;
+                if (family.is(grid::batched) && narrow == 1 && wide == 2) continue;
                 EXPECT_EQ(harness::call_uniform(family, narrow, tuples[first]),
                           harness::call_uniform(family, wide, tuples[first]))
                     << family.name << " at widths " << narrow << " and " << wide << ", tuple " << first;
@@ -124,13 +117,12 @@ TEST_P(EveryFamily, Width3IgnoresItsFourthLaneAndFillsIt) {
         for (int i = 0; i < 4; ++i) operands.back().push_back(harness::ordinary_pattern(lane, random));
     }
     // The fourth lane of the result is the function of the fill.
-    static const std::set<std::string> filled_with_one = {"ldexp", "pown", "rootn"};
     std::vector<Patterns> filled = operands;
     for (size_t i = 0; i < operands.size(); ++i) {
         bool floating = family.operands[i] == grid::Lane::f32 || family.operands[i] == grid::Lane::f64;
-        double value = floating ? 0.75 : family.base == "nan" ? 0 : 1;
-        if (floating && family.base == "acosh") value = 2;
-        if (filled_with_one.contains(family.base)) value = 1;
+        double value = floating ? 0.75 : family.signature == "from_code" ? 0 : 1;
+        if (i == 0 && family.is(grid::fill_one)) value = 1;
+        if (i == 0 && family.is(grid::fill_two)) value = 2;
         if (!floating)
             filled[i][3] = static_cast<uint64_t>(value);
         else

@@ -1,0 +1,63 @@
+// Numbers as the unevaluated sum of a head and a tail: exact sums, splits and products, alike for units and scalars.
+// Nothing here may be reassociated, and nothing is.
+#pragma once
+
+#include "frame/scalar.h"
+#include "frame/units.h"
+
+namespace zorv {
+
+template <class Value>
+struct HeadTail {
+    Value head, tail;
+};
+
+// x + y exactly, where |x| >= |y| or x is 0.
+template <class Value>
+inline HeadTail<Value> fast_two_sum(Value x, Value y) {
+    Value head = x + y;
+    return {head, (x - head) + y};
+}
+// x + y exactly, whatever the magnitudes.
+template <class Value>
+inline HeadTail<Value> two_sum(Value x, Value y) {
+    Value head = x + y;
+    Value part = head - x;
+    return {head, (x - (head - part)) + (y - part)};
+}
+
+// The bits that the mask keeps, and the rest; both exact.
+inline HeadTail<F4> split_by_mask(F4 x, I4 mask) {
+    F4 head = and_bits(x, mask);
+    return {head, x - head};
+}
+inline HeadTail<D2> split_by_mask(D2 x, L2 mask) {
+    D2 head = and_bits(x, mask);
+    return {head, x - head};
+}
+inline HeadTail<float> split_by_mask(float x, uint32_t mask) {
+    float head = from_pattern(pattern(x) & mask);
+    return {head, x - head};
+}
+inline HeadTail<double> split_by_mask(double x, uint64_t mask) {
+    double head = from_pattern(pattern(x) & mask);
+    return {head, x - head};
+}
+
+// Head rounded to nearest, by the multiplier 2^k + 1: it keeps all but the k low bits. Two common orders, which round
+// alike but overflow and carry the sign of zero differently: u - (u - x), and with the multiplier's product first.
+template <class Value>
+inline HeadTail<Value> split_by_product(Value x, Value multiplier) {
+    Value u = multiplier * x;
+    Value head = u - (u - x);
+    return {head, x - head};
+}
+
+// The product of two split numbers, whose heads are short enough that all four products are exact: the rounded product
+// and its error.
+template <class Value>
+inline HeadTail<Value> exact_product(HeadTail<Value> x, HeadTail<Value> y, Value product) {
+    return {product, (((x.head * y.head - product) + x.head * y.tail) + x.tail * y.head) + x.tail * y.tail};
+}
+
+}  // namespace zorv
