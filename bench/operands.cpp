@@ -55,6 +55,10 @@ const std::vector<Row>& rows() {
 #define RARE(key, precision, class_, ...) {#key, SINGLE_##precision, #class_, Kind::rare, {__VA_ARGS__}},
 #define LONG_PATH(key, precision, class_, ...) {#key, SINGLE_##precision, #class_, Kind::long_path, {__VA_ARGS__}},
 #include "bench/operands.def"
+#define IN_RANGE(key, precision, ...) {#key, SINGLE_##precision, "", Kind::in_range, {__VA_ARGS__}},
+#define RARE(key, precision, class_, ...) {#key, SINGLE_##precision, #class_, Kind::rare, {__VA_ARGS__}},
+#define LONG_PATH(key, precision, class_, ...) {#key, SINGLE_##precision, #class_, Kind::long_path, {__VA_ARGS__}},
+#include "include/operations.def"
     };
     return list;
 }

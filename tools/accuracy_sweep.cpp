@@ -325,6 +325,9 @@ std::vector<Range> ranges_of(const grid::Family& family) {
 #define RANGE(family_, name_, ...) \
     if (family.name == #family_) list.push_back({.family = #family_, .name = #name_, __VA_ARGS__});
 #include "tools/accuracy_ranges.def"
+#define RANGE(family_, name_, ...) \
+    if (family.name == #family_) list.push_back({.family = #family_, .name = #name_, __VA_ARGS__});
+#include "include/operations.def"
     if (list.empty()) list.push_back({.family = family.name, .name = "all"});
     return list;
 }
