@@ -1,6 +1,6 @@
-// Constant records: read-only data, laid out so that every width fetches a constant with one aligned load and no
-// shuffle. Records are defined in data/, out of the kernels' sight: a kernel that cannot see a value uses it as a
-// memory operand, where it stands, and nothing is folded at build time.
+// Records of constants. Each constant stands there as often as a unit has lanes, so that it can be the memory operand
+// of an instruction as it is. A record is defined in a source of its own, <group>/<name>_data.cpp: a kernel that saw
+// the values would fold them at build time, or broadcast them from somewhere else.
 #pragma once
 
 #include <cstdint>
@@ -35,7 +35,7 @@ struct PatternOf<int64_t> {
     using Unit = L2;
 };
 
-// One constant, given by its bit pattern, repeated over 32 bytes: the packed slot of a run of coefficients.
+// One constant, given by its bit pattern, and 32 bytes of copies of it: for runs of coefficients, two to a line.
 template <class Lane>
 struct alignas(32) PackedSlot {
     using Pattern = typename PatternOf<Lane>::type;
@@ -55,7 +55,7 @@ struct alignas(32) PackedSlot {
     friend Unit operator^(Unit x, const PackedSlot& constant) { return x ^ Unit(constant); }
 };
 
-// One constant alone in its 64-byte line: 32 bytes of replicas, 32 bytes of zero.
+// One constant alone in its line of 64 bytes, the second half of which is zero.
 template <class Lane>
 struct alignas(64) Slot : PackedSlot<Lane> {
     using PackedSlot<Lane>::PackedSlot;
@@ -64,7 +64,7 @@ struct alignas(64) Slot : PackedSlot<Lane> {
     uint32_t zero_[8] = {};
 };
 
-// One constant of a rare routine, by its bit pattern: in its natural form, not repeated.
+// One constant of a rare routine, by its bit pattern: a scalar needs no copies.
 template <class Lane>
 struct Scalar {
     typename PatternOf<Lane>::type pattern;
