@@ -15,10 +15,11 @@
 //
 // Further members, all optional:
 //
-//   fill        what lane 3 of the first operand holds at width 3, in place of 0.75 (floating) or 1 (integer)
 //   LongPath    a kernel of its own that takes over, for all lanes together, where
 //   beyond      static <mask> beyond(<units> operands...) is true in any lane
 //   batch       main over four units at once, at widths 1, 8 and 16
+//
+// What lane 3 holds at width 3 is told by the traits of the family's row in the grid.
 #pragma once
 
 #include <cstddef>
@@ -35,11 +36,11 @@
 
 namespace zorv {
 
-template <class Kernel, int width, class Main = decltype(&Kernel::main)>
+template <class Kernel, int width, grid::Traits traits = grid::plain, class Main = decltype(&Kernel::main)>
 class Frame;
 
-template <class Kernel, int width, class Returned, class... Operands>
-class Frame<Kernel, width, Returned (*)(Operands...)> {
+template <class Kernel, int width, grid::Traits traits, class Returned, class... Operands>
+class Frame<Kernel, width, traits, Returned (*)(Operands...)> {
     using Result = MainResult<Returned>;
     using First = typename Result::First;
     static constexpr bool two_results = !std::is_void_v<typename Result::Second>;
@@ -113,26 +114,16 @@ class Frame<Kernel, width, Returned (*)(Operands...)> {
 
     // ---- Shaping. ----
 
-    // Lane 3 of a width-3 operand is replaced before anything else looks at it.
     template <class Units, bool is_first_operand>
     ALWAYS_INLINE static VectorFor<Units> shape(VectorFor<Units> vector) {
         if constexpr (width == 3) {
-            using L = Lane<Units>;
-            using Pattern = Vector<std::conditional_t<sizeof(L) == 4, int32_t, int64_t>, 4>;
-            constexpr Pattern live = {-1, -1, -1, 0};
-            Vector<L, 4> filled = {0, 0, 0, fill_value<L, is_first_operand>()};
-            return reinterpret_cast<Vector<L, 4>>((reinterpret_cast<Pattern>(vector) & live) |
-                                                  reinterpret_cast<Pattern>(filled));
+            constexpr auto fill = fill_value<Lane<Units>, is_first_operand>(traits);
+            if constexpr (is_first_operand && requires { Kernel::fill; })
+                static_assert(Kernel::fill == fill, "the kernel and its row of the grid fill lane 3 differently");
+            return with_fourth_lane(vector, fill);
         } else {
             return vector;
         }
-    }
-    template <class L, bool is_first_operand>
-    static constexpr L fill_value() {
-        if constexpr (is_first_operand && requires { Kernel::fill; })
-            return static_cast<L>(Kernel::fill);
-        else
-            return std::is_floating_point_v<L> ? static_cast<L>(0.75) : static_cast<L>(1);
     }
 
     template <class Units, size_t... step>

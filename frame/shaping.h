@@ -7,6 +7,7 @@
 
 #include "frame/inlining.h"
 #include "frame/layout.h"
+#include "include/grid_names.h"
 
 namespace zorv {
 
@@ -16,6 +17,26 @@ inline constexpr int room = width == 3 ? 4 : width;
 
 template <int width, int lanes>
 inline constexpr int steps_of = room<width> <= lanes ? 1 : room<width> / lanes;
+
+// Lane 3 of a width-3 operand is whatever the caller's register held: it gets a harmless value, here, before any
+// arithmetic sees it.
+template <class Lane>
+ALWAYS_INLINE Vector<Lane, 3> with_fourth_lane(Vector<Lane, 3> vector, Lane fill) {
+    using Pattern = Vector<std::conditional_t<sizeof(Lane) == 4, int32_t, int64_t>, 4>;
+    constexpr Pattern live = {-1, -1, -1, 0};
+    Vector<Lane, 4> filled = {0, 0, 0, fill};
+    return reinterpret_cast<Vector<Lane, 4>>((reinterpret_cast<Pattern>(vector) & live) |
+                                             reinterpret_cast<Pattern>(filled));
+}
+
+// What it gets: in the first operand what the grid says, otherwise a number in the middle of most domains.
+template <class Lane, bool is_first_operand>
+constexpr Lane fill_value(grid::Traits traits) {
+    if (is_first_operand && (traits & grid::fill_zero) != 0) return 0;
+    if (is_first_operand && (traits & grid::fill_one) != 0) return 1;
+    if (is_first_operand && (traits & grid::fill_two) != 0) return 2;
+    return std::is_floating_point_v<Lane> ? static_cast<Lane>(0.75) : static_cast<Lane>(1);
+}
 
 // A scalar operand by a load of its own size: read as a whole unit from the caller's stack it would wait for the
 // caller's narrower store to retire.

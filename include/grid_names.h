@@ -31,13 +31,14 @@ namespace grid {
 // The grid's column `traits`: these, or several joined by |.
 enum Traits : unsigned {
     plain = 0,
-    batched = 1,    // at widths 1, 8, 16 four units share one divide: a lane's last bits depend on its neighbours
-    coupled = 2,    // one lane beyond the short path's reach sends all lanes of its call down the long path
-    all_rare = 4,   // every lane goes through the scalar routine
-    estimate = 8,   // the last bits depend on the processor's rcpps or rsqrtps
-    extended = 16,  // the scalar routine computes in the x87 unit's 80-bit format
-    fill_one = 32,  // at width 3 the first operand's lane 3 is filled with 1, in place of 0.75
-    fill_two = 64,  // with 2
+    batched = 1,      // at widths 1, 8, 16 four units share one divide: a lane's last bits depend on its neighbours
+    coupled = 2,      // one lane beyond the short path's reach sends all lanes of its call down the long path
+    all_rare = 4,     // every lane goes through the scalar routine
+    estimate = 8,     // the last bits depend on the processor's rcpps or rsqrtps
+    extended = 16,    // the scalar routine computes in the x87 unit's 80-bit format
+    fill_one = 32,    // at width 3 the first operand's lane 3 is filled with 1, in place of 0.75
+    fill_two = 64,    // with 2
+    fill_zero = 128,  // with 0
 };
 constexpr Traits operator|(Traits x, Traits y) {
     return static_cast<Traits>(static_cast<unsigned>(x) | static_cast<unsigned>(y));

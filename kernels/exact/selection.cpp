@@ -40,11 +40,9 @@ using copysign = CopySign<D2>;
 
 // A quiet NaN with the code in its payload; bits of the code above the payload stay.
 struct nanf {
-    static constexpr int fill = 0;
     static F4 main(U4 code) { return as_float(code | 0x7fc00000u); }
 };
 struct nan {
-    static constexpr int fill = 0;
     static D2 main(UL2 code) { return as_double(code | 0x7ff8000000000000u); }
 };
 

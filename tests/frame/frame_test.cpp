@@ -82,7 +82,7 @@ D2 with_integer(D2 x, N2 n) {
 template <class Units, class Integers>
 struct OperandAndInteger {
     using Scalar = typename Layout<Units>::Lane;
-    static constexpr double fill = 1;
+    static constexpr grid::Traits traits = grid::fill_one;
     static Lanes<Units> main(Units x, Integers n) { return {with_integer(x, n), negative(x)}; }
     static Status rare(const Scalar* x, const int32_t* n, Scalar* result) {
         record(x, result);
@@ -149,6 +149,14 @@ struct TwoOperandsSecondIsInteger {
 
 // ---- One call of a kernel, at one width, with one set of rare lanes, against its values lane by lane. ----
 
+template <class Kernel>
+constexpr grid::Traits traits_of() {
+    if constexpr (requires { Kernel::traits; })
+        return Kernel::traits;
+    else
+        return grid::plain;
+}
+
 template <class Kernel, int width, bool pair, class Main = decltype(&Kernel::main)>
 struct Check;
 
@@ -175,8 +183,10 @@ struct Check<Kernel, width, pair, Returned (*)(Operands...)> {
         else
             return static_cast<double>(vector[lane]);
     }
+    static constexpr grid::Traits traits = traits_of<Kernel>();
+    using Framed = Frame<Kernel, width, traits>;
     static constexpr double fill_values[] = {
-        (std::is_floating_point_v<typename Layout<Operands>::Lane> && !requires { Kernel::fill; } ? 0.75 : 1)...};
+        (std::is_floating_point_v<typename Layout<Operands>::Lane> && traits == grid::plain ? 0.75 : 1)...};
     static double operand_value(size_t index, unsigned lane, unsigned rare_lanes) {
         if (width == 3 && lane == 3) return fill_values[index];
         double value = 4 * (static_cast<double>(index) + 1) + lane;
@@ -196,9 +206,9 @@ struct Check<Kernel, width, pair, Returned (*)(Operands...)> {
         VectorFor<std::conditional_t<std::is_void_v<Second>, First, Second>> second;
         watched_pointer = nullptr;
         if constexpr (std::is_void_v<Second>) {
-            first = Frame<Kernel, width>::call(std::get<index>(operands)...);
+            first = Framed::call(std::get<index>(operands)...);
         } else if constexpr (pair) {
-            auto both = Frame<Kernel, width>::call_for_pair(std::get<index>(operands)...);
+            auto both = Framed::call_for_pair(std::get<index>(operands)...);
             if constexpr (width == 1) {
                 first = both[0];
                 second = both[1];
@@ -209,7 +219,7 @@ struct Check<Kernel, width, pair, Returned (*)(Operands...)> {
         } else {
             std::memset(static_cast<void*>(&second), 0xa5, sizeof second);
             watched_pointer = reinterpret_cast<const unsigned char*>(&second);
-            first = Frame<Kernel, width>::call_with_pointer(std::get<index>(operands)..., &second);
+            first = Framed::call_with_pointer(std::get<index>(operands)..., &second);
             EXPECT_FALSE(pointer_written_early);
         }
         watched_pointer = nullptr;
@@ -307,9 +317,8 @@ TEST(Frame, UnwrittenSlotKeepsTheMainValue) {
         EXPECT_EQ((lane % 2 ? -3.0f : 3.0f) * static_cast<float>(lane + 1), result[lane]);
 }
 
-// Fills: 0.75 for floating operands, 1 for integers, what the kernel says for its first operand.
+// Fills: 0.75 for floating operands, 1 for integers, what the traits say for the first operand.
 struct FillSeen {
-    static constexpr double fill = 2;
     static Lanes<F4, I4> main(F4 x, I4 n) { return {x, n, x > 100.0f}; }
     static Status rare(const float*, const int32_t*, float*, int32_t*) { return RARE_OK; }
 };
@@ -318,7 +327,8 @@ struct TwoFillsSeen {
 };
 TEST(Frame, FillLanes) {
     I4 second;
-    F4 first = Frame<FillSeen, 3>::call_with_pointer(F4{5, 6, 7, __builtin_nanf("")}, I4{1, 2, 3, -1}, &second);
+    F4 first = Frame<FillSeen, 3, grid::fill_two>::call_with_pointer(F4{5, 6, 7, __builtin_nanf("")}, I4{1, 2, 3, -1},
+                                                                     &second);
     EXPECT_EQ(2.0f, first[3]);
     EXPECT_EQ(1, second[3]);
     EXPECT_EQ(7.0f, first[2]);
@@ -333,11 +343,9 @@ TEST(Frame, FillLanes) {
 
 // Codes and conversions: other lane types in than out, 32-bit beside 64-bit lanes.
 struct CodeF {
-    static constexpr int fill = 0;
     static F4 main(U4 code) { return as_float(signed_lanes(code)); }
 };
 struct Code {
-    static constexpr int fill = 0;
     static D2 main(UL2 code) { return as_double(code); }
 };
 struct Narrow {  // double to int, two units to one
@@ -398,8 +406,8 @@ TEST(Frame, NanCodes) {
                                 : __builtin_bit_cast(uint64_t, static_cast<double>(lane));
     };
     EXPECT_EQ(5u, bits_of(Frame<CodeF, 4>::call(U4{1, 2, 3, 5})[3]));
-    EXPECT_EQ(0u, bits_of(Frame<CodeF, 3>::call(U4{1, 2, 3, 5})[3]));
-    EXPECT_EQ(0u, bits_of(Frame<Code, 3>::call(Vector<uint64_t, 3>(0x500000000))[3]));
+    EXPECT_EQ(0u, bits_of(Frame<CodeF, 3, grid::fill_zero>::call(U4{1, 2, 3, 5})[3]));
+    EXPECT_EQ(0u, bits_of(Frame<Code, 3, grid::fill_zero>::call(Vector<uint64_t, 3>(0x500000000))[3]));
     EXPECT_EQ(0x500000000u, bits_of(Frame<Code, 16>::call(Vector<uint64_t, 16>(0x500000000))[15]));
 }
 

@@ -120,7 +120,8 @@ TEST_P(EveryFamily, Width3IgnoresItsFourthLaneAndFillsIt) {
     std::vector<Patterns> filled = operands;
     for (size_t i = 0; i < operands.size(); ++i) {
         bool floating = family.operands[i] == grid::Lane::f32 || family.operands[i] == grid::Lane::f64;
-        double value = floating ? 0.75 : family.signature == "from_code" ? 0 : 1;
+        double value = floating ? 0.75 : 1;
+        if (i == 0 && family.is(grid::fill_zero)) value = 0;
         if (i == 0 && family.is(grid::fill_one)) value = 1;
         if (i == 0 && family.is(grid::fill_two)) value = 2;
         if (!floating)
