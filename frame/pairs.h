@@ -44,8 +44,8 @@ inline HeadTail<double> split_by_mask(double x, uint64_t mask) {
     return {head, x - head};
 }
 
-// Head rounded to nearest, by the multiplier 2^k + 1: it keeps all but the k low bits. Two common orders, which round
-// alike but overflow and carry the sign of zero differently: u - (u - x), and with the multiplier's product first.
+// Head rounded to nearest, by the multiplier 2^k + 1: it keeps all but the k low bits. (2^k alone, whose product is
+// exact, keeps as many, one more at the very bottom of a binade.)
 template <class Value>
 inline HeadTail<Value> split_by_product(Value x, Value multiplier) {
     Value u = multiplier * x;

@@ -52,6 +52,10 @@ template <class Float>
 inline bool is_zero_or_subnormal(Float x) {
     return (pattern(x) & Fields<Float>::exponent) == 0;
 }
+template <class Float>
+inline bool is_negative_infinity(Float x) {
+    return pattern(x) == (Fields<Float>::sign | Fields<Float>::infinity);
+}
 // The magnitude of x with the sign bit of y set as well where it is set: an OR, not a copy.
 template <class Float>
 inline Float or_sign_of(Float x, Float y) {

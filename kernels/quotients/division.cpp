@@ -4,8 +4,8 @@
 // divide has already given.
 // Native: in single precision the hardware's reciprocal estimate, never a divide; in double one divide for four
 // units at the widths that fill such a batch, and at width 1 the same steps.
-#include "kernels/quotients/quotients_data.h"
 #include "frame/lane_frame.h"
+#include "kernels/quotients/quotients_data.h"
 
 namespace zorv {
 namespace {

@@ -1,6 +1,7 @@
 // Constants of the reciprocal, division and square root families.
 #pragma once
 
+#include "frame/polynomial.h"
 #include "frame/record.h"
 
 namespace zorv {
@@ -31,7 +32,8 @@ struct SqrtfData {
 };
 struct RsqrtfData {
     Slot<int32_t> estimate_mask;
-    Slot<float> one, c3, c2, c1;
+    Slot<float> one;
+    Coefficients<float, 3> p;
     Slot<int32_t> smallest_normal_negated, last_rare;
 };
 // The operand of a double rsqrt rebuilt as a float in [1, 4), and the power of two taken out.
@@ -41,12 +43,14 @@ struct FloatSeedData {
 struct RsqrtData {
     FloatSeedData seed;
     Slot<int64_t> split_mask;
-    Slot<double> one, c4, c3, c2, c1;
+    Slot<double> one;
+    Coefficients<double, 4> p;
     Slot<int32_t> smallest_normal_negated, last_rare;  // on the high halves
 };
 struct RsqrtNativeData {
     FloatSeedData seed;
-    Slot<double> one, d2, d1, d0;
+    Slot<double> one;
+    Coefficients<double, 3> q;
 };
 
 HIDDEN extern const InvfData invf_data;
@@ -61,7 +65,13 @@ HIDDEN extern const RsqrtfData rsqrtf_data;
 HIDDEN extern const RsqrtData rsqrt_data;
 HIDDEN extern const RsqrtNativeData rsqrt_native_data;
 
-// Rare data: 1/sqrt of [1, 2), then of [2, 4), by the leading mantissa bits.
+// The rare lanes' (1 - r)^(-1/2) - 1 - r/2, over r^2.
+struct RsqrtRareData {
+    ScalarCoefficients<double, 7> p;
+};
+HIDDEN extern const RsqrtRareData rsqrt_rare_data;
+
+// Seeds of the rare lanes: 1/sqrt of [1, 2), then of [2, 4), by the leading mantissa bits.
 HIDDEN extern const double SQRT_SEED[512];
 HIDDEN extern const double RSQRT_SEED[65];
 

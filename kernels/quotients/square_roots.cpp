@@ -3,23 +3,13 @@
 // Single precision starts from the hardware's reciprocal square root estimate; double rsqrt rebuilds its operand as
 // a float to use the same estimate; double sqrt is the hardware's. No main path divides. What is not a positive,
 // normal, finite number is rare and goes through a complete scalar algorithm in double precision.
-#include "kernels/quotients/quotients_data.h"
 #include "frame/lane_frame.h"
+#include "frame/pairs.h"
+#include "frame/scalar.h"
+#include "kernels/quotients/quotients_data.h"
 
 namespace zorv {
 namespace {
-
-constexpr uint64_t exponent_field = 0x7ff0000000000000;
-constexpr uint64_t exponent_of_one = 0x3ff0000000000000;
-
-uint64_t pattern(double x) { return __builtin_bit_cast(uint64_t, x); }
-double from_pattern(uint64_t x) { return __builtin_bit_cast(double, x); }
-int unbiased_exponent(double x) { return static_cast<int>(pattern(x) >> 52 & 0x7ff) - 1023; }
-// The mantissa of x in [1, 2), or in (-2, -1] for a negative x.
-double with_exponent_of_one(double x) { return from_pattern((pattern(x) & ~exponent_field) | exponent_of_one); }
-// 2^n for n in the normal range.
-double power_of_two(int n) { return from_pattern(static_cast<uint64_t>(n + 1023) << 52); }
-double zero_by_zero() { return opaque(0.0) / opaque(0.0); }
 
 // Not a positive, normal, finite float: one signed compare on the pattern moved down by the smallest normal.
 template <class Data>
@@ -30,13 +20,8 @@ I4 not_positive_normal(F4 x, const Data& data) {
 // ---- sqrtf. ------------------------------------------------------------------------------------------------
 
 Status sqrtf_rare(const float* x, float* result) {
-    uint32_t b = __builtin_bit_cast(uint32_t, *x);
-    bool negative = b >> 31 != 0;
-    if ((b & 0x7f800000) == 0x7f800000) {
-        if (b == 0xff800000) {
-            *result = static_cast<float>(zero_by_zero());
-            return RARE_DOMAIN;
-        }
+    if (is_infinite_or_nan(*x)) {
+        if (is_negative_infinity(*x)) return domain_result(result);
         *result = *x + *x;
         return RARE_OK;
     }
@@ -45,12 +30,9 @@ Status sqrtf_rare(const float* x, float* result) {
         *result = *x;
         return RARE_OK;
     }
-    if (negative) {
-        *result = static_cast<float>(zero_by_zero());
-        return RARE_DOMAIN;
-    }
+    if (is_negative(*x)) return domain_result(result);
     int k = 0;
-    if ((b & 0x7f800000) == 0) {  // subnormal
+    if (is_zero_or_subnormal(*x)) {
         d = d * 0x1p200;
         k = 100;
     }
@@ -76,12 +58,10 @@ Status sqrtf_rare(const float* x, float* result) {
     g = g + r * g;
 
     // The exact residual t - g^2, from g in two exact halves, corrects the last bit.
-    double s = 134217729.0 * g;
-    double gh = s - (s - g);
-    double gl = g - gh;
+    auto [gh, gl] = split_by_product(g, 0x1p27 + 1);
     double f = ((t - gh * gh) - 2.0 * gh * gl) - gl * gl;
     double c = h * f;
-    *result = static_cast<float>((g + c) * power_of_two((e >> 1) - k));
+    *result = static_cast<float>((g + c) * power_of_two<double>((e >> 1) - k));
     return RARE_OK;
 }
 
@@ -130,62 +110,42 @@ Status reciprocal_root(const Float* operand, Float* result) {
         *result = x / x;
         return RARE_OK;
     }
-    if (x == -__builtin_inff()) {
-        *result = opaque(x) / opaque(x);
-        return RARE_DOMAIN;
-    }
-    if (x == __builtin_inff()) {
+    if (is_infinite_or_nan(x)) {
+        if (is_negative(x)) return domain_result(result);
         *result = Float(0) / x;
         return RARE_OK;
     }
     double d = x;
     int c = 0;
-    if ((pattern(d) & exponent_field) == 0) {
+    if (is_zero_or_subnormal(d)) {
         d = d * 0x1p60;
         c = -30;
     }
-    if (d == 0.0) {
-        *result = Float(1) / x;
-        return RARE_POLE;
-    }
-    if (d < 0.0) {
-        *result = static_cast<Float>(zero_by_zero());
-        return RARE_DOMAIN;
-    }
+    if (d == 0.0) return pole_result(or_sign_of(Float(1), x), result);
+    if (d < 0.0) return domain_result(result);
 
     // d = 4^(e/2) t, t in [1, 4) in two halves whose products are exact.
     int e = unbiased_exponent(d);
     bool odd = (e & 1) != 0;
     double m = with_exponent_of_one(d);
     double t = odd ? m + m : m;
-    double s = t * 134217728.0;
-    double th = s - (s - t);
-    double tl = t - th;
+    auto [th, tl] = split_by_product(t, 0x1p27);
 
     // A seed of 13 bits by m rounded to five fraction bits; its residual r = 1 - t y^2.
-    unsigned i = static_cast<unsigned>(pattern(m + 140737488355329.0) & 63) + (odd ? 32 : 0);
+    unsigned i = static_cast<unsigned>(pattern(m + (0x1p47 + 1)) & 63) + (odd ? 32 : 0);
     double y = RSQRT_SEED[i];
     double y2 = y * y;
     double r1 = 1.0 - th * y2;
     double w = y2 * tl;
     double r = r1 - w;
-    s = 134217728.0 * r1;
-    double rh = s - (s - r1);
+    auto [rh, rl] = split_by_product(r1, 0x1p27);
     double u = (0.5 * y) * rh;
 
     // 1/sqrt(1 - r) = 1 + r/2 + P(r), the leading parts kept in head and tail.
-    double k1 = from_pattern(0x3fd8000000000001);  // 0.37500000000000006
-    double k2 = from_pattern(0x3fd400000000138b);  // 0.3125000000002777
-    double k3 = from_pattern(0x3fd17ffffffe2a26);  // 0.273437499993323
-    double k4 = from_pattern(0x3fcf7fffec1426e4);  // 0.24609374072343038
-    double k5 = from_pattern(0x3fcce000c07a3b3e);  // 0.2255860271293048
-    double k6 = from_pattern(0x3fcad28a9e3226df);  // 0.20955021595391707
-    double k7 = from_pattern(0x3fc91a80bfbf8b2a);  // 0.19612130511003417
-    double p = horner(r, k7, k6, k5, k4, k3, k2, k1) * r * r;
-    double v = (p - (w - (r1 - rh)) * 0.5) * y;
-    double hi = y + u;
-    double lo = (y - hi) + u;
-    *result = static_cast<Float>(((v + lo) + hi) * power_of_two(-(c + (e >> 1))));
+    double p = horner(r, rsqrt_rare_data.p) * r * r;
+    double v = (p - (w - rl) * 0.5) * y;
+    auto [hi, lo] = fast_two_sum(y, u);
+    *result = static_cast<Float>(((v + lo) + hi) * power_of_two<double>(-(c + (e >> 1))));
     return RARE_OK;
 }
 
@@ -195,7 +155,7 @@ struct rsqrtf {
         const auto& data = in_memory(rsqrtf_data);
         F4 y = and_bits(rsqrt_estimate(x), data.estimate_mask);
         F4 e = (y * y) * x - data.one;
-        F4 p = ((data.c3 * e + data.c2) * e + data.c1) * e;
+        F4 p = horner(e, data.p) * e;
         return {p * y + y, not_positive_normal(x, data)};
     }
     static constexpr auto rare = reciprocal_root<float>;
@@ -212,7 +172,7 @@ inline D2 reciprocal_root_seed(D2 x, const FloatSeedData& data) {
     UL2 low = unsigned_lanes(bits(x) & data.low_mask);
     UL2 f = (low >> 29) | ((unsigned_lanes(data.float_exponent_base) + n) >> 29);
     F4 u = as_float(low_halves(signed_lanes(f), signed_lanes(f)));
-    D2 y0 = _mm_cvtps_pd(rsqrt_estimate(u));
+    D2 y0 = widen(rsqrt_estimate(u)).low;
     D2 scale = as_double((unsigned_lanes(data.scale_base) + n - e) >> 1);
     return y0 * scale;
 }
@@ -223,10 +183,9 @@ struct rsqrt {
         const auto& data = in_memory(rsqrt_data);
         D2 y = reciprocal_root_seed(x, data.seed);
         D2 y2 = y * y;
-        D2 xh = and_bits(x, data.split_mask);
-        D2 xl = x - xh;
+        auto [xh, xl] = split_by_mask(x, data.split_mask);
         D2 r = (data.one - xh * y2) - xl * y2;
-        D2 p = (((data.c4 * r + data.c3) * r + data.c2) * r + data.c1) * r;
+        D2 p = horner(r, data.p) * r;
         // Of 64-bit lanes the high halves decide.
         I4 not_positive_normal = halves(x) - data.smallest_normal_negated > data.last_rare;
         return {p * y + y, from_halves(not_positive_normal)};
@@ -239,8 +198,7 @@ struct rsqrt_native {
         const auto& data = in_memory(rsqrt_native_data);
         D2 y = reciprocal_root_seed(x, data.seed);
         D2 r = data.one - (y * y) * x;
-        D2 q = (data.d2 * r + data.d1) * r + data.d0;
-        return q * y;
+        return horner(r, data.q) * y;
     }
 };
 
