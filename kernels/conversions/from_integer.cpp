@@ -9,8 +9,9 @@
 //   u64, i64 to double     two pieces of 52 bits; to nearest, the two halves as they stand
 //   u64, i64 to float      three pieces of 23 bits
 //   u32, i32 to double     exact, all roundings alike
-#include "kernels/conversions/conversions_data.h"
 #include "frame/lane_frame.h"
+#include "frame/pairs.h"
+#include "kernels/conversions/conversions_data.h"
 
 namespace zorv {
 namespace {
@@ -31,7 +32,7 @@ struct Magnitude {
 };
 
 I4 negative_lanes(I4 x) { return x < 0; }
-L2 negative_lanes(L2 x) { return spread_high(halves(x) < 0); }
+L2 negative_lanes(L2 x) { return high_below(x, I4{}); }
 // The most negative integer is its own magnitude, read as unsigned.
 U4 magnitude(I4 x, I4 negative) { return unsigned_lanes((x ^ negative) - negative); }
 UL2 magnitude(L2 x, L2 negative) { return unsigned_lanes((x ^ negative) - negative); }
@@ -96,10 +97,8 @@ RoundedSum<F4> add_pieces(UL4 u, const ThreePiecesData& data) {
     F4 low = piece<F4>(data.low_magic, low_piece(u, data));
     F4 middle = piece<F4>(data.middle_magic, middle_piece(u, data));
     F4 high = piece<F4>(data.high_magic, high_piece(u));
-    F4 lower = middle + low;
-    F4 lower_error = (middle - lower) + low;
-    F4 sum = high + lower;
-    F4 error = (high - sum) + lower;
+    auto [lower, lower_error] = fast_two_sum(middle, low);
+    auto [sum, error] = fast_two_sum(high, lower);
     return {sum, lower_error + error, F4{}};
 }
 
@@ -189,8 +188,7 @@ F4 nearest_of_three(UL4 u, const ThreePiecesData& data) {
     F4 minus_low = F4(data.low_magic) - or_bits(data.low_magic, low_piece(u, data));
     F4 middle = piece<F4>(data.middle_magic, middle_piece(u, data));
     F4 high = piece<F4>(data.high_magic, high_piece(u));
-    F4 sum = high + middle;
-    F4 error = (high - sum) + middle;
+    auto [sum, error] = fast_two_sum(high, middle);
     I4 half_unit = bits(clear_bits(sum, data.piece)) - data.half_unit_offset;
     I4 tie = bits(error) == half_unit;
     I4 sticky = signed_lanes(unsigned_lanes(bits(minus_low)) >> 31);
@@ -224,8 +222,8 @@ struct u32_to_double {
         const auto& data = in_memory(word_data);
         constexpr I4 zero = {};
         I4 word = signed_lanes(x);
-        return {piece<D2>(data.magic, from_halves(__builtin_shufflevector(word, zero, 0, 4, 1, 5))),
-                piece<D2>(data.magic, from_halves(__builtin_shufflevector(word, zero, 2, 6, 3, 7)))};
+        return {small_integer_to_double(from_halves(__builtin_shufflevector(word, zero, 0, 4, 1, 5)), data.magic),
+                small_integer_to_double(from_halves(__builtin_shufflevector(word, zero, 2, 6, 3, 7)), data.magic)};
     }
 };
 

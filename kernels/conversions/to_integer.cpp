@@ -1,9 +1,9 @@
 // float and double to int, uint, long and ulong: a rounding stage, which keeps the lanes floating, then a conversion
 // stage, whose operand y is integral, infinite or NaN. Neither knows of the other; every pair of them is a family,
 // and the grid's rows at the end of this file make the pairs. Exact for every operand in the target's range.
+#include "frame/lane_frame.h"
 #include "kernels/conversions/conversions_data.h"
 #include "kernels/exact/integral.h"
-#include "frame/lane_frame.h"
 
 namespace zorv {
 namespace {
@@ -109,10 +109,7 @@ struct ToU32_sat {
 // number, in two's complement and so for either sign.
 
 // The lanes as doubles: two units beside a unit of floats. Exact.
-D4 doubles(F4 y) {
-    return {__builtin_convertvector(__builtin_shufflevector(y, y, 0, 1), D2),
-            __builtin_convertvector(__builtin_shufflevector(y, y, 2, 3), D2)};
-}
+D4 doubles(F4 y) { return widen(y); }
 D2 doubles(D2 y) { return y; }
 
 // The integer of an integral y, modulo 2^64, for |y| <= 2^64. What the low magic number's own bits add to the sum,

@@ -3,6 +3,7 @@
 // The target has no fused instruction, so every lane goes through exact integer arithmetic. Single and double
 // precision are the same steps in other word sizes. Correctly rounded in all four modes; the mode is the x87 unit's.
 #include "frame/lane_frame.h"
+#include "frame/scalar.h"
 
 namespace zorv {
 namespace {
@@ -36,21 +37,17 @@ void discard(Scalar value) {
 template <class Float>
 struct Format;
 template <>
-struct Format<float> {
-    using Word = uint32_t;
+struct Format<float> : Fields<float> {
+    using Word = Pattern;
     using Wide = uint64_t;
-    static constexpr int mantissa_bits = 23, bias = 127;
-    static constexpr Word one = 0x3f800000, infinity = 0x7f800000;
     static constexpr float huge = 0x1p100f;
     static void raise_inexact() {}
     static void raise_underflow() {}
 };
 template <>
-struct Format<double> {
-    using Word = uint64_t;
+struct Format<double> : Fields<double> {
+    using Word = Pattern;
     using Wide = unsigned _BitInt(128);
-    static constexpr int mantissa_bits = 52, bias = 1023;
-    static constexpr Word one = 0x3ff0000000000000, infinity = 0x7ff0000000000000;
     static constexpr double huge = 0x1p1000, tiny = 0x1p-1000;
     static void raise_inexact() { discard(opaque(1.0) + opaque(tiny)); }
     static void raise_underflow() { discard(opaque(tiny) * opaque(tiny)); }
@@ -95,7 +92,7 @@ Float with_sign(typename F::Word sign, typename F::Word magnitude) {
         Float huge = opaque(F::huge);
         return (sign != 0 ? -huge : huge) * huge;
     }
-    return __builtin_bit_cast(Float, static_cast<typename F::Word>(sign << (8 * sizeof(Float) - 1) | magnitude));
+    return from_pattern(static_cast<typename F::Word>(sign << (8 * sizeof(Float) - 1) | magnitude));
 }
 
 // The number of this sign whose leading one stands in the top bit of `top` and weighs 2^exponent, biased. What was
@@ -155,15 +152,11 @@ Status fma_rare(const Float* operand_a, const Float* operand_b, const Float* ope
     using Wide = typename F::Wide;
     constexpr int word_bits = 8 * sizeof(Word);
     constexpr int wide_bits = 2 * word_bits;
-    constexpr Word sign_bit = Word(1) << (word_bits - 1);
 
     Float a = *operand_a, b = *operand_b, c = *operand_c;
-    Word a_bits = __builtin_bit_cast(Word, a);
-    Word b_bits = __builtin_bit_cast(Word, b);
-    Word c_bits = __builtin_bit_cast(Word, c);
-    Word magnitude_a = a_bits & ~sign_bit;
-    Word magnitude_b = b_bits & ~sign_bit;
-    Word magnitude_c = c_bits & ~sign_bit;
+    Word magnitude_a = pattern(a) & F::magnitude;
+    Word magnitude_b = pattern(b) & F::magnitude;
+    Word magnitude_c = pattern(c) & F::magnitude;
 
     // What the hardware does with one rounding: NaN, infinities, and products that are exact.
     auto zero_or_special = [](Word magnitude) { return magnitude - 1 >= F::infinity - 1; };
@@ -188,8 +181,8 @@ Status fma_rare(const Float* operand_a, const Float* operand_b, const Float* ope
     Wide product = static_cast<Wide>(ua.mantissa) * (ub.mantissa >> 1);
     Wide addend = static_cast<Wide>(uc.mantissa >> 1) << word_bits;
     int product_exponent = ua.exponent + ub.exponent - F::bias + 1;
-    Word product_sign = (a_bits ^ b_bits) >> (word_bits - 1);
-    Word addend_sign = c_bits >> (word_bits - 1);
+    Word product_sign = (pattern(a) ^ pattern(b)) >> (word_bits - 1);
+    Word addend_sign = pattern(c) >> (word_bits - 1);
 
     // The one with the smaller exponent moves right. Bits are lost only where the two are so far apart that their
     // difference keeps its leading bits, and then a sticky bit stands for them all.

@@ -2,9 +2,10 @@
 // exact/integral.h. The bare families are complete for every operand; modf and fract repair infinities and NaN.
 #include "kernels/exact/integral.h"
 
+#include "frame/lane_frame.h"
+#include "frame/scalar.h"
 #include "kernels/exact/exact_data.h"
 #include "kernels/exact/special.h"
-#include "frame/lane_frame.h"
 
 namespace zorv {
 namespace {
@@ -60,11 +61,6 @@ using round = Round<D2, round_data>;
 
 // ---- modf: fractional part, and through the pointer the integral part. -------------------------------------
 
-float zero_with_sign(float x) { return __builtin_bit_cast(float, __builtin_bit_cast(uint32_t, x) & 0x80000000); }
-double zero_with_sign(double x) {
-    return __builtin_bit_cast(double, __builtin_bit_cast(uint64_t, x) & 0x8000000000000000);
-}
-
 template <class Float>
 Status modf_rare(const Float* x, Float* fraction, Float* integral) {
     if (*x != *x) {
@@ -72,7 +68,7 @@ Status modf_rare(const Float* x, Float* fraction, Float* integral) {
         *fraction = *integral = static_cast<Float>(d + d);
         return RARE_OK;
     }
-    *fraction = zero_with_sign(*x);
+    *fraction = or_sign_of(Float(0), *x);
     *integral = *x;
     return RARE_OK;
 }
@@ -102,7 +98,7 @@ Status fract_rare(const Float* x, Float* fraction, Float* floor) {
         *fraction = *floor = v;
         return RARE_OK;
     }
-    *fraction = zero_with_sign(*x);
+    *fraction = or_sign_of(Float(0), *x);
     *floor = *x;
     return RARE_OK;
 }
