@@ -14,9 +14,10 @@
 // of the sum's pattern. 2^k is an integer addition to the exponent field of P(r), with no test. The accurate
 // families are exact in that only while the result is a normal number; what lies beyond, infinities and NaN are
 // rare. The native families do not look: a lane out of range wraps, an infinity becomes NaN.
-#include "kernels/explog/explog_float_data.h"
 #include "frame/gather.h"
 #include "frame/lane_frame.h"
+#include "frame/scalar.h"
+#include "kernels/explog/explog_float_data.h"
 
 namespace zorv {
 namespace {
@@ -32,11 +33,8 @@ I4 not_ordinary(F4 x, const Data& data) {
 
 // ---- Rare lanes. -------------------------------------------------------------------------------------------
 
-// 2^(field - 127), or zero where the field is zero. Only the low eight bits of the field count.
-float power_of_two(int field) { return __builtin_bit_cast(float, (static_cast<uint32_t>(field) & 255) << 23); }
-
 // k of a sum with the shifter.
-int low_half(float shifted) { return static_cast<int16_t>(__builtin_bit_cast(uint32_t, shifted)); }
+int low_half(float shifted) { return static_cast<int16_t>(pattern(shifted)); }
 
 constexpr float shifter = 0x1.8p23f;
 
@@ -47,18 +45,17 @@ Status in_range(const ExponentialRareData<degree>& data, float x, float* result)
     float k = t - shifter;
     float r = (x - k * data.log_2_high) - k * data.log_2_low;
     int n = low_half(t);
-    float p = data.c[0];
-    for (int i = 1; i <= degree; ++i) p = p * r + data.c[i];
+    float p = horner(r, data.p);
 
     if (!(x >= data.last_normal)) {  // one rounding, in the last product
-        *result = p * power_of_two(n - 69) * 0x1p-60f;
+        *result = p * with_exponent_field<float>(n - 69) * 0x1p-60f;
         return RARE_UNDERFLOW;
     }
     if (static_cast<unsigned>(n + 127) > 254) {  // n = 128: 2^n itself is no float
-        *result = p * power_of_two(n + 126) * 2.0f;
+        *result = p * with_exponent_field<float>(n + 126) * 2.0f;
         return RARE_OK;
     }
-    *result = p * power_of_two(n + 127);
+    *result = p * with_exponent_field<float>(n + 127);
     return RARE_OK;
 }
 
@@ -67,33 +64,25 @@ Status in_range(const Exp2fRareData& data, float x, float* result) {
     float t = x + shifter;
     float r = x - (t - shifter);
     int n = low_half(t);
-    float p = horner(r, data.c5, data.c4, data.c3, data.c2, data.c1, data.c0);
+    float p = horner(r, data.p);
 
     if (n < 104) {  // zero for n = -150
-        *result = p * power_of_two(n - 106) * 0x1p-23f;
+        *result = p * with_exponent_field<float>(n - 106) * 0x1p-23f;
         return x < data.last_normal ? RARE_UNDERFLOW : RARE_OK;
     }
-    *result = p * power_of_two(n) * 0x1p127f;  // infinite for n = 128
+    *result = p * with_exponent_field<float>(n) * 0x1p127f;  // infinite for n = 128
     return RARE_OK;
 }
 
-// Overflow and underflow raise their flags by products that the compiler must not fold.
 template <class Data>
 Status exponential_rare(const Data& data, const float* operand, float* result) {
     float x = *operand;
-    uint32_t pattern = __builtin_bit_cast(uint32_t, x);
-    if ((pattern & 0x7f800000) == 0x7f800000) {
-        *result = pattern == 0xff800000 ? 0.0f : x * x;
+    if (is_infinite_or_nan(x)) {
+        *result = is_negative_infinity(x) ? 0.0f : x * x;
         return RARE_OK;
     }
-    if (!(x <= data.last_finite)) {
-        *result = opaque(__FLT_MAX__) * opaque(__FLT_MAX__);
-        return RARE_OVERFLOW;
-    }
-    if (!(x >= data.last_nonzero)) {
-        *result = opaque(__FLT_DENORM_MIN__) * opaque(__FLT_DENORM_MIN__);
-        return RARE_UNDERFLOW;
-    }
+    if (!(x <= data.last_finite)) return overflow_result(result);
+    if (!(x >= data.last_nonzero)) return underflow_result(result);
     return in_range(data, x, result);
 }
 
@@ -110,7 +99,7 @@ struct expf {
         F4 t = x * data.log2_e + data.shifter;
         F4 k = t - data.shifter;
         F4 r = (x - k * data.ln2_high) - k * data.ln2_low;  // the first product is exact: 15 bits times 8
-        F4 p = horner(r, data.c5, data.c4, data.c3, data.c2, data.c1, data.c0);
+        F4 p = horner(r, data.p);
         return {times_power_of_two(p, t), not_ordinary(x, data)};
     }
     static constexpr auto rare = expf_rare;
@@ -123,7 +112,7 @@ struct exp2f {
         F4 t = x + data.shifter;
         F4 k = t - data.shifter;
         F4 r = x - k;
-        F4 p = horner(r, data.c6, data.c5, data.c4, data.c3, data.c2, data.c1, data.c0);
+        F4 p = horner(r, data.p);
         return {times_power_of_two(p, t), not_ordinary(x, data)};
     }
     static constexpr auto rare = exp2f_rare;
@@ -139,7 +128,7 @@ struct exp10f {
         F4 power = gather_indexed(data.powers, offsets_of(i));
         F4 k = t - data.shifter;
         F4 r = (x - k * data.step_high) - k * data.step_low;
-        F4 p = r * data.c1 + data.c0;
+        F4 p = horner(r, data.p);
         F4 y = p * power + power;
         I4 n = (bits(t) ^ i) << 14;  // k/512, rounded down, in the exponent field
         return {as_float(bits(y) + n), not_ordinary(x, data)};
@@ -156,7 +145,7 @@ struct expf_native {
         F4 t = x * data.log2_e + data.shifter;
         F4 k = t - data.shifter;
         F4 r = x - k * data.ln2;
-        F4 p = horner(r, data.c3, data.c2, data.c1, data.c0);
+        F4 p = horner(r, data.p);
         return times_power_of_two(p, t);
     }
 };
@@ -166,7 +155,7 @@ F4 exp2f_short(F4 x, const Data& data) {
     F4 t = x + data.shifter;
     F4 k = t - data.shifter;
     F4 r = x - k;
-    F4 p = horner(r, data.c3, data.c2, data.c1, data.c0);
+    F4 p = horner(r, data.p);
     return times_power_of_two(p, t);
 }
 

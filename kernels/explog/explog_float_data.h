@@ -1,6 +1,7 @@
 // Constants of the single precision exponentials and logarithms.
 #pragma once
 
+#include "frame/polynomial.h"
 #include "frame/record.h"
 
 namespace zorv {
@@ -9,31 +10,31 @@ namespace zorv {
 
 struct ExpfData {
     Slot<float> log2_e, shifter, ln2_high, ln2_low;
-    Slot<float> c5, c4, c3, c2, c1, c0;
+    Coefficients<float, 6> p;
     Slot<int32_t> magnitude, last_ordinary;
 };
 struct Exp2fData {
     Slot<float> shifter;
-    Slot<float> c6, c5, c4, c3, c2, c1, c0;
+    Coefficients<float, 7> p;
     Slot<int32_t> magnitude, last_ordinary;
 };
 struct Exp10fData {
     Slot<float> steps_per_unit, shifter, step_high, step_low;
-    Slot<float> c1, c0;
+    Coefficients<float, 2> p;
     Slot<int32_t> row_index, magnitude, last_ordinary;
     alignas(64) float powers[512];  // 2^(i/512)
 };
 struct ExpfNativeData {
     Slot<float> log2_e, shifter, ln2;
-    Slot<float> c3, c2, c1, c0;
+    Coefficients<float, 4> p;
 };
 struct Exp2fNativeData {
     Slot<float> shifter;
-    Slot<float> c3, c2, c1, c0;
+    Coefficients<float, 4> p;
 };
 struct Exp10fNativeData {
     Slot<float> log2_10, shifter;
-    Slot<float> c3, c2, c1, c0;
+    Coefficients<float, 4> p;
 };
 
 HIDDEN extern const ExpfData expf_data;
@@ -48,11 +49,11 @@ template <int degree>
 struct ExponentialRareData {
     Scalar<float> last_finite, last_nonzero, last_normal;
     Scalar<float> log2_base, log_2_high, log_2_low;
-    Scalar<float> c[degree + 1];  // highest first
+    ScalarCoefficients<float, degree + 1> p;
 };
 struct Exp2fRareData {
     Scalar<float> last_finite, last_nonzero, last_normal;
-    Scalar<float> c5, c4, c3, c2, c1, c0;
+    ScalarCoefficients<float, 6> p;
 };
 
 HIDDEN extern const ExponentialRareData<5> expf_rare_data;
@@ -68,32 +69,35 @@ struct MantissaSplitData {
 };
 struct LogfData {
     MantissaSplitData split;
-    PackedSlot<float> c8, c7, c6, c5, c4, c3, c2, c1, c0;
+    Coefficients<float, 9> q;
     PackedSlot<float> ln2_high, ln2_low;
     PackedSlot<int32_t> smallest_normal, twice_smallest_normal;
 };
 struct Log2fData {
     MantissaSplitData split;
-    Slot<float> a1, a0, b1, b0, c1, c0, d1, d0, log2_e;
+    Coefficients<float, 8> a;
+    Slot<float> log2_e;
     Slot<float> smallest_normal, largest;
 };
 struct Log10fData {
     MantissaSplitData split;
-    PackedSlot<float> a1, a0, b1, b0, c1, c0, d1, d0, log10_e;
-    PackedSlot<float> log10_2_high, log10_2_low;
+    Coefficients<float, 8> a;
+    PackedSlot<float> log10_e, log10_2_high, log10_2_low;
     PackedSlot<float> smallest_normal, largest;
 };
 struct LogfNativeData {
     MantissaSplitData split;
-    PackedSlot<float> c2, c1, c0, ln2;
+    Coefficients<float, 3> q;
+    PackedSlot<float> ln2;
 };
 struct Log2fNativeData {
     MantissaSplitData split;
-    Slot<float> c4, c3, c2, c1, c0;
+    Coefficients<float, 5> a;
 };
 struct Log10fNativeData {
     MantissaSplitData split;
-    PackedSlot<float> c4, c3, c2, c1, c0, log10_2;
+    Coefficients<float, 5> a;
+    PackedSlot<float> log10_2;
 };
 
 HIDDEN extern const LogfData logf_data;

@@ -14,8 +14,8 @@
 // The accurate families are right for every positive normal number; whatever else is rare and goes through a
 // complete scalar logarithm of another make. The native families do not look: the pattern of a zero, a negative
 // number, an infinity or a NaN is split like any other.
-#include "kernels/explog/explog_float_data.h"
 #include "frame/lane_frame.h"
+#include "kernels/explog/explog_float_data.h"
 
 namespace zorv {
 namespace {
@@ -140,7 +140,7 @@ struct logf {
         I4 not_positive_normal = opaque(bits(x) + logf_data.smallest_normal < logf_data.twice_smallest_normal);
         const auto& data = in_memory(logf_data);
         auto [k, r] = split(x, data.split);
-        F4 q = horner(r, data.c8, data.c7, data.c6, data.c5, data.c4, data.c3, data.c2, data.c1, data.c0);
+        F4 q = horner(r, data.q);
         F4 s = q * r * r + r;
         F4 y = k * data.ln2_high + (k * data.ln2_low + s);
         return {y, not_positive_normal};
@@ -148,14 +148,10 @@ struct logf {
     static constexpr auto rare = logf_rare;
 };
 
-// A(r) in even and odd terms: four pairs over r^2, then the coefficient of r.
+// A(r) in even and odd terms: pairs over r^2, then the coefficient of r.
 template <class Data>
-F4 paired(F4 r, F4 last, const Data& data) {
-    F4 r2 = r * r;
-    F4 a = (r * data.a1 + data.a0) * r2 + (r * data.b1 + data.b0);
-    a = a * r2 + (r * data.c1 + data.c0);
-    a = a * r2 + (r * data.d1 + data.d0);
-    return a * r + last;
+F4 even_and_odd(F4 r, F4 last, const Data& data) {
+    return paired(r, r * r, data.a) * r + last;
 }
 
 template <class Data>
@@ -168,7 +164,7 @@ struct log2f {
     static Lanes<F4> main(F4 x) {
         const auto& data = in_memory(log2f_data);
         auto [k, r] = split(x, data.split);
-        F4 a = paired(r, data.log2_e, data);
+        F4 a = even_and_odd(r, data.log2_e, data);
         return {a * r + k, not_positive_normal(x, data)};  // exact for a power of two, where r is 0
     }
     static constexpr auto rare = log2f_rare;
@@ -180,7 +176,7 @@ struct log10f {
         I4 mask = opaque(not_positive_normal(x, log10f_data));
         const auto& data = in_memory(log10f_data);
         auto [k, r] = split(x, data.split);
-        F4 a = paired(r, data.log10_e, data);
+        F4 a = even_and_odd(r, data.log10_e, data);
         return {(a * r + k * data.log10_2_low) + k * data.log10_2_high, mask};
     }
     static constexpr auto rare = log10f_rare;
@@ -193,7 +189,7 @@ struct logf_native {
     static F4 main(F4 x) {
         const auto& data = in_memory(logf_native_data);
         auto [k, r] = split(x, data.split);
-        F4 q = horner(r, data.c2, data.c1, data.c0);
+        F4 q = horner(r, data.q);
         F4 s = q * r * r + r;
         return k * data.ln2 + s;
     }
@@ -204,7 +200,7 @@ struct log2f_native {
     static F4 main(F4 x) {
         const auto& data = in_memory(log2f_native_data);
         auto [k, r] = split(x, data.split);
-        F4 a = horner(r, data.c4, data.c3, data.c2, data.c1, data.c0);
+        F4 a = horner(r, data.a);
         return a * r + k;
     }
 };
@@ -214,7 +210,7 @@ struct log10f_native {
     static F4 main(F4 x) {
         const auto& data = in_memory(log10f_native_data);
         auto [k, r] = split(x, data.split);
-        F4 a = horner(r, data.c4, data.c3, data.c2, data.c1, data.c0);
+        F4 a = horner(r, data.a);
         return a * r + k * data.log10_2;
     }
 };

@@ -9,8 +9,9 @@
 // Branch-free, all lanes at once; the only gather is one row of the table for each lane.
 #pragma once
 
-#include "kernels/trig/reduction_data.h"
 #include "frame/gather.h"
+#include "frame/pairs.h"
+#include "kernels/trig/reduction_data.h"
 
 namespace zorv {
 
@@ -135,19 +136,16 @@ inline auto remainder(TurnFraction<Word> fraction, Float a, const Data& data) {
     Float low = unpack(unsigned_and(fraction.low, data.low_rest) << (p - low_rest_bits), data.low_base);
 
     // r + mid + low as head and tail.
-    Float t = r + mid;
-    Float u = mid + (r - t);
+    auto [t, u] = fast_two_sum(r, mid);
     u = u + low;
 
     // Times 2 pi; the product of the heads is exact.
-    Float th = and_bits(t, data.head_mask);
-    Float tl = t - th;
+    auto [th, tl] = split_by_mask(t, data.head_mask);
     Float p0 = data.two_pi_head * th;
     Float m1 = data.two_pi_head * tl + data.two_pi_tail * th;
     Float m2 = data.two_pi * u + data.two_pi_tail * tl;
     Float m = m1 + m2;
-    Float y = p0 + m;
-    Float ylo = (p0 - y) + m;
+    auto [y, ylo] = fast_two_sum(p0, m);
 
     // Tiny arguments, beside a huge one in their vector, are their own remainder. A NaN passes neither compare.
     Float size = and_bits(a, data.magnitude);
