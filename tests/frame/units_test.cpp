@@ -62,6 +62,41 @@ TEST(Units, HalvesOf64BitLanes) {
     EXPECT_EQ((Lanes32{0x0000000300000003, 0xffffffffffffffff}), patterns(double_high(lanes)));
 }
 
+// The low halves are the opposite of what the high ones say.
+TEST(Units, ComparesOfHighHalves) {
+    L2 x = {0x00000005ffffffff, static_cast<int64_t>(0x8000000000000000)};
+    I4 five = {0, 5, 0, 5}, four = {-1, 4, -1, 4}, lowest = {0, INT32_MIN, 0, INT32_MIN};
+    constexpr uint64_t all = ~uint64_t{0};
+    EXPECT_EQ((Lanes32{0, 0}), patterns(high_above(x, five)));
+    EXPECT_EQ((Lanes32{all, 0}), patterns(high_above(x, four)));
+    EXPECT_EQ((Lanes32{0, all}), patterns(high_below(x, five)));
+    EXPECT_EQ((Lanes32{0, 0}), patterns(high_below(x, lowest)));
+}
+
+TEST(Units, BetweenIntegersFloatsAndDoubles) {
+    D2 integers = small_integer_to_double(L2{0xfffffffffffff, 1}, D2{0x1p52, 0x1p52});
+    EXPECT_EQ(0xfffffffffffff, integers[0]);
+    EXPECT_EQ(1.0, integers[1]);
+    D4 wide = widen(F4{1, 2, 3, 4});
+    EXPECT_EQ((std::vector<double>{1, 2, 3, 4}),
+              (std::vector<double>{wide.low[0], wide.low[1], wide.high[0], wide.high[1]}));
+    F4 narrowed = narrow({D2{0x1.000001p0, -2}, D2{0x1.000003p0, 4}});  // ties go to the even neighbour
+    EXPECT_EQ((std::vector<float>{1, -2, 0x1.000004p0f, 4}),
+              (std::vector<float>{narrowed[0], narrowed[1], narrowed[2], narrowed[3]}));
+}
+
+// Estimates of doubles go through float: their error is the float estimate's.
+TEST(Units, EstimatesOfDoubles) {
+    constexpr double bound = 1.5 * 0x1p-12 + 0x1p-23;
+    for (double x = 0x1p-120; x < 0x1p120; x *= 1.37) {
+        D2 reciprocal = reciprocal_estimate(D2{x, 3}), rsqrt = rsqrt_estimate(D2{4, x});
+        EXPECT_NEAR(1, reciprocal[0] * x, bound);
+        EXPECT_NEAR(1, reciprocal[1] * 3, bound);
+        EXPECT_NEAR(1, rsqrt[0] * 2, bound);
+        EXPECT_NEAR(1, rsqrt[1] * rsqrt[1] * x, 2.1 * bound);
+    }
+}
+
 TEST(Units, HornerRoundsEachStep) {
     // (1 + 2^-12)^2 rounds to 1 + 2^-11, so nothing is left; a fused step would leave 2^-24.
     F4 x = {0x1.001p0f, 0x1.001p0f, 2.0f, -1.0f};
@@ -108,6 +143,29 @@ TEST(Gathers, TakeEachLanesRow) {
     }
     EXPECT_EQ((std::vector<float>{33, 0, 11, 10}),
               (std::vector<float>{indexed[0], indexed[1], indexed[2], indexed[3]}));
+}
+
+alignas(16) const double rows[] = {0, 1, 2, 3, 10, 11, 12, 13, 20, 21, 22, 23, 30, 31, 32, 33};
+
+TEST(Gathers, RowsOfDoubles) {
+    LaneOffsets2 at2 = offsets_of(L2{96, 32});
+    D2 column = gather(rows + 3, at2);
+    ColumnPair pair = gather_pair(rows + 2, at2);
+    LaneOffsets at = offsets_of(I4{96, 0, 32, 64});
+    D4 wide = gather_wide(rows + 1, at);
+    WideColumnPair wide_pair = gather_wide_pair(rows, at);
+    for (int lane = 0; lane < 2; ++lane) {
+        double row = lane == 0 ? 30 : 10, low = lane == 0 ? 30 : 0, high = lane == 0 ? 10 : 20;
+        EXPECT_EQ(row + 3, column[lane]);
+        EXPECT_EQ(row + 2, pair.first[lane]);
+        EXPECT_EQ(row + 3, pair.second[lane]);
+        EXPECT_EQ(low + 1, wide.low[lane]);
+        EXPECT_EQ(high + 1, wide.high[lane]);
+        EXPECT_EQ(low, wide_pair.first.low[lane]);
+        EXPECT_EQ(high, wide_pair.first.high[lane]);
+        EXPECT_EQ(low + 1, wide_pair.second.low[lane]);
+        EXPECT_EQ(high + 1, wide_pair.second.high[lane]);
+    }
 }
 
 }  // namespace
