@@ -31,7 +31,7 @@ struct ThroughPointer {
     }
 };
 
-// At width 1 the pair is one two-lane value.
+// A pair of scalars travels as one vector of two.
 template <class Value, class SecondValue, class Pair>
 struct AsPair {
     using Type = Pair;

@@ -1,4 +1,5 @@
-// Numbers as the unevaluated sum of a head and a tail: exact sums, splits and products, alike for units and scalars.
+// Twice the precision: a number as head + tail, the head being what rounding left of it. Exact sums, splits and
+// products, alike for units and scalars.
 // Nothing here may be reassociated, and nothing is.
 #pragma once
 

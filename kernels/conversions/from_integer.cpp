@@ -1,9 +1,9 @@
 // int, uint, long and ulong to float and double.
 //
-// A magnitude is cut into pieces that each fit a significand. A piece becomes floating without a conversion: set
-// into the low bits of a magic power of two, which is then subtracted. The pieces are exact; their sum is rounded to
-// nearest once, and what the rounding took tells the directed roundings whether to step by one unit in the last
-// place. A step is an integer operation on the bits, which carries across powers of two by itself.
+// No conversion instruction takes part, but for i32 to double. An integer of no more bits than a significand, put under
+// the exponent of a large power of two, is that power plus the integer; less the power, it is the integer. Wider ones
+// go through in two or three such pieces, and one rounded sum puts them together. Its rounding error is known exactly:
+// where it points the wrong way for a directed rounding, the sum's pattern goes up or down by one.
 //
 //   u32, i32 to float      two pieces of 23 bits
 //   u64, i64 to double     two pieces of 52 bits; to nearest, the two halves as they stand

@@ -1,6 +1,6 @@
-// float and double to int, uint, long and ulong: a rounding stage, which keeps the lanes floating, then a conversion
-// stage, whose operand y is integral, infinite or NaN. Neither knows of the other; every pair of them is a family,
-// and the grid's rows at the end of this file make the pairs. Exact for every operand in the target's range.
+// float and double to int, uint, long and ulong. First x is rounded to an integral y, which is still a floating number;
+// then y, integral, infinite or NaN, becomes an integer. Any of the four roundings goes with any of the eight
+// conversions: the grid's rows at the end of this file combine them. Exact for every operand in the target's range.
 #include "frame/lane_frame.h"
 #include "kernels/conversions/conversions_data.h"
 #include "kernels/exact/integral.h"

@@ -1,4 +1,4 @@
-// Values of the single precision exponentials, by their bits, worked out from the steps in exact arithmetic.
+// Values of the single precision exponentials, by their bits, from a model in exact arithmetic that rounds where they round.
 #include "tests/harness/lanes.h"
 
 namespace {

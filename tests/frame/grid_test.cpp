@@ -116,7 +116,7 @@ TEST_P(EveryFamily, Width3IgnoresItsFourthLaneAndFillsIt) {
         operands.emplace_back();
         for (int i = 0; i < 4; ++i) operands.back().push_back(harness::ordinary_pattern(lane, random));
     }
-    // The fourth lane of the result is the function of the fill.
+    // What comes back in the fourth lane is the result for the fill.
     std::vector<Patterns> filled = operands;
     for (size_t i = 0; i < operands.size(); ++i) {
         bool floating = family.operands[i] == grid::Lane::f32 || family.operands[i] == grid::Lane::f64;

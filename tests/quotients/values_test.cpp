@@ -1,4 +1,4 @@
-// Values of the reciprocals, quotients and roots, by their bits, worked out from the steps.
+// Values of the reciprocals, quotients and roots, by their bits, worked out operation by operation.
 #include "tests/harness/lanes.h"
 
 namespace {
