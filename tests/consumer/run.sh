@@ -46,8 +46,8 @@ done
 pc_folder=$(dirname "$(find "$scratch/moved" -name ocl_zorv_v8.pc)")
 flags=$(PKG_CONFIG_PATH=$pc_folder pkg-config --cflags ocl_zorv_v8)
 libraries=$(PKG_CONFIG_PATH=$pc_folder pkg-config --libs ocl_zorv_v8)
-# The flags are words of their own.
-# shellcheck disable=SC2086
-"$cc" $flags "$source/main.c" $libraries -o "$scratch/by_pkg_config"
+# The flags are words of their own, quoted by pkg-config.
+eval "set -- $flags \"\$source/main.c\" $libraries"
+"$cc" "$@" -o "$scratch/by_pkg_config"
 export LD_LIBRARY_PATH="$pc_folder/.."
 expect "$scratch/by_pkg_config"
