@@ -1,6 +1,6 @@
 # The grid (include/grid.def) is written once. grid_outputs includes it and prints what is derived: the two public
-# headers and the linker's version script, made by every build, and the README's table, committed and compared in the
-# tests.
+# headers and the linker's version script, made by every build, and the README's table and docs/families.md, committed
+# and compared in the tests.
 add_executable(grid_outputs tools/grid_outputs.cpp)
 target_include_directories(grid_outputs PRIVATE ${PROJECT_SOURCE_DIR})
 
@@ -22,11 +22,12 @@ from_grid(version_script ${version_script})
 add_custom_target(headers
   DEPENDS ${generated_include}/ocl_zorv_v8.h ${generated_include}/ocl_zorv_v8_builtins.h ${version_script})
 
-# After a change of the grid: cmake --build ... --target readme
+# After a change of the grid or of what the operations are: cmake --build ... --target readme
 add_custom_target(readme
   COMMAND grid_outputs readme < ${PROJECT_SOURCE_DIR}/README.md > ${PROJECT_BINARY_DIR}/README.md
   COMMAND ${CMAKE_COMMAND} -E copy ${PROJECT_BINARY_DIR}/README.md ${PROJECT_SOURCE_DIR}/README.md
-  COMMENT "The README's table from the grid"
+  COMMAND grid_outputs families > ${PROJECT_SOURCE_DIR}/docs/families.md
+  COMMENT "The README's table and docs/families.md from the grid"
   VERBATIM)
 
 # The names of the families that stand, known while configuring: the grid is preprocessed and read.

@@ -28,7 +28,6 @@ struct Range {
     int width = 0;                      // the one width that the range is about; 0: every width
     double bound = -1;                  // where it is tighter than the family's
     bool sampled = false;               // too slow to try every number of it
-    double reached = 0.9;               // the part of the family's bound that its worst operands must come up to
 
     const Interval& operand(size_t i) const { return i == 0 ? x : i == 1 ? y : z; }
 };

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cstdint>
 #include <cstring>
+#include <iterator>
 #include <string_view>
 #include <type_traits>
 #include <utility>
@@ -24,7 +25,7 @@ struct Element<Scalar> {
 };
 
 template <class Vector>
-Lane lane_of() {
+constexpr Lane lane_of() {
     using T = typename Element<Vector>::type;
     if (std::is_floating_point_v<T>) return sizeof(T) == 4 ? Lane::f32 : Lane::f64;
     if (sizeof(T) == 4) return std::is_signed_v<T> ? Lane::i32 : Lane::u32;
@@ -42,10 +43,12 @@ Operand load(const void* operand, void* pointer_output) {
     }
 }
 
-template <auto* function, bool pair, class Result, class... Operands>
-struct Thunk {
+// The call of any function of one type: some sixty types serve all exports.
+template <bool pair, class Result, class... Operands>
+struct Invoker {
     template <size_t... i>
-    static void invoke(const void* const* operands, void* const* results, std::index_sequence<i...>) {
+    static void invoke(Result (*function)(Operands...), const void* const* operands, void* const* results,
+                       std::index_sequence<i...>) {
         constexpr size_t inputs = (size_t{!std::is_pointer_v<Operands>} + ...);
         Result result = function(
             load<Operands>(i < inputs ? operands[i] : nullptr, inputs < sizeof...(Operands) ? results[1] : nullptr)...);
@@ -56,80 +59,107 @@ struct Thunk {
             std::memcpy(results[0], &result, sizeof result);
         }
     }
-    static void call(const void* const* operands, void* const* results) {
-        invoke(operands, results, std::index_sequence_for<Operands...>());
+    static void call(Function function, const void* const* operands, void* const* results) {
+        invoke(reinterpret_cast<Result (*)(Operands...)>(function), operands, results,
+               std::index_sequence_for<Operands...>());
     }
 };
 
-template <auto* function, bool pair, class Result, class... Operands>
-Call thunk(Result (*)(Operands...)) {
-    return Thunk<function, pair, Result, Operands...>::call;
-}
-
-// The lanes, as the width-4 export has them.
+// What the types of a family's exports tell, as plain data: the table of all families then takes no code to build.
+struct Shape {
+    Lane operands[3] = {}, results[2] = {};
+    size_t operand_count = 0, result_count = 0;
+    bool second_through_pointer = false;
+};
 template <class Result, class... Operands>
-void describe(Family& family, Result (*)(Operands...)) {
+constexpr Shape shape_of(Result (*)(Operands...)) {
+    Shape shape;
     if constexpr (requires(Result both) { both.sine; }) {
-        family.results = {lane_of<decltype(Result::sine)>(), lane_of<decltype(Result::cosine)>()};
+        shape.results[shape.result_count++] = lane_of<decltype(Result::sine)>();
+        shape.results[shape.result_count++] = lane_of<decltype(Result::cosine)>();
     } else {
-        family.results = {lane_of<Result>()};
+        shape.results[shape.result_count++] = lane_of<Result>();
     }
     auto each = [&]<class Operand>(std::type_identity<Operand>) {
         if constexpr (std::is_pointer_v<Operand>) {
-            family.results.push_back(lane_of<std::remove_pointer_t<Operand>>());
-            family.second_through_pointer = true;
+            shape.results[shape.result_count++] = lane_of<std::remove_pointer_t<Operand>>();
+            shape.second_through_pointer = true;
         } else {
-            family.operands.push_back(lane_of<Operand>());
+            shape.operands[shape.operand_count++] = lane_of<Operand>();
         }
     };
     (each(std::type_identity<Operands>()), ...);
+    return shape;
 }
 
 #define EXPORT(base, precision, class_, width) EXPORT_NAME(base, precision, class_, width)
 #ifdef GRID_CALLS_THROUGH_OPENCL
 // The calls made by an object compiled from OpenCL C, in place of the ones made here.
-#define OPENCL(base, precision, class_, width) PASTE5(opencl_, base, LETTER_##precision, width, CLASS_##class_)
-#define THUNK(base, precision, class_, width, pair) OPENCL(base, precision, class_, width)
-#define DECLARE(base, precision, class_, width) \
-    extern "C" void OPENCL(base, precision, class_, width)(const void* const*, void* const*);
-#define FAMILY(base, precision, class_, signature, home, traits, bound) \
-    DECLARE(base, precision, class_, 1)                                 \
-    DECLARE(base, precision, class_, 2)                                 \
-    DECLARE(base, precision, class_, 3)                                 \
-    DECLARE(base, precision, class_, 4)                                 \
-    DECLARE(base, precision, class_, 8)                                 \
-    DECLARE(base, precision, class_, 16)
+using OpenclCaller = void(const void* const* operands, void* const* results);
+void call_through_opencl(Function function, const void* const* operands, void* const* results) {
+    reinterpret_cast<OpenclCaller*>(function)(operands, results);
+}
+#define CALLER(base, precision, class_, width) PASTE5(opencl_, base, LETTER_##precision, width, CLASS_##class_)
+#define DECLARE(base, precision, class_, width) extern "C" OpenclCaller CALLER(base, precision, class_, width);
+#define FAMILY(base, precision, class_, signature, home, traits, bound) FOR_EACH_WIDTH(DECLARE, base, precision, class_)
 #include "include/grid.def"
+#define CALL(pair, base, precision, class_, width) \
+    {call_through_opencl, reinterpret_cast<Function>(CALLER(base, precision, class_, width))},
 #else
-#define THUNK(base, precision, class_, width, pair) \
-    thunk<EXPORT(base, precision, class_, width), pair>(&EXPORT(base, precision, class_, width))
+template <bool pair, class Result, class... Operands>
+constexpr Invoke* invoker_of(Result (*)(Operands...)) {
+    return Invoker<pair, Result, Operands...>::call;
+}
+#define CALL(pair, base, precision, class_, width)              \
+    {invoker_of<pair>(&EXPORT(base, precision, class_, width)), \
+     reinterpret_cast<Function>(&EXPORT(base, precision, class_, width))},
 #endif
+
+struct Row {
+    const char *base, *precision, *accuracy_class, *signature;
+    Traits traits;
+    double bound;
+    Shape shape;
+    Call calls[6];
+};
+
+// The lanes are those of the width-4 export.
+const Row rows[] = {
+#define FAMILY(base, precision, class_, signature, home, traits, bound) \
+    {#base,                                                             \
+     #precision,                                                        \
+     #class_,                                                           \
+     #signature,                                                        \
+     traits,                                                            \
+     bound,                                                             \
+     shape_of(&EXPORT(base, precision, class_, 4)),                     \
+     {FOR_EACH_WIDTH(CALL, std::string_view(#signature) == "pair_result", base, precision, class_)}},
+#include "include/grid.def"
+};
+
+Family family_of(const Row& row) {
+    const Shape& shape = row.shape;
+    Family family;
+    family.base = row.base;
+    family.signature = row.signature;
+    family.is_single = std::string_view(row.precision) == "float_";
+    family.is_native = std::string_view(row.accuracy_class) == "native";
+    family.traits = row.traits;
+    family.bound = row.bound;
+    family.operands.assign(shape.operands, shape.operands + shape.operand_count);
+    family.results.assign(shape.results, shape.results + shape.result_count);
+    family.second_through_pointer = shape.second_through_pointer;
+    std::copy(std::begin(row.calls), std::end(row.calls), family.calls.begin());
+    std::string stem = family.base + (family.is_single ? "f" : ""), ending = family.is_native ? "_native" : "";
+    family.name = stem + ending;
+    for (size_t i = 0; i < widths.size(); ++i)
+        family.exports[i] = "__ocl_zorv_v8_" + stem + std::to_string(widths[i]) + ending;
+    return family;
+}
 
 std::vector<Family> make_families() {
     std::vector<Family> list;
-#define FAMILY(base, precision, class_, signature, home, traits, bound)                                          \
-    {                                                                                                            \
-        [[maybe_unused]] constexpr bool pair = std::string_view(#signature) == "pair_result";                    \
-        Family family = {TEXT(FAMILY_NAME(base, precision, class_)),                                             \
-                         #base,                                                                                  \
-                         #signature,                                                                             \
-                         std::string_view(#precision) == "float_",                                               \
-                         std::string_view(#class_) == "native",                                                  \
-                         traits,                                                                                 \
-                         bound,                                                                                  \
-                         {},                                                                                     \
-                         {},                                                                                     \
-                         false,                                                                                  \
-                         {THUNK(base, precision, class_, 1, pair), THUNK(base, precision, class_, 2, pair),      \
-                          THUNK(base, precision, class_, 3, pair), THUNK(base, precision, class_, 4, pair),      \
-                          THUNK(base, precision, class_, 8, pair), THUNK(base, precision, class_, 16, pair)},    \
-                         {TEXT(EXPORT(base, precision, class_, 1)), TEXT(EXPORT(base, precision, class_, 2)),    \
-                          TEXT(EXPORT(base, precision, class_, 3)), TEXT(EXPORT(base, precision, class_, 4)),    \
-                          TEXT(EXPORT(base, precision, class_, 8)), TEXT(EXPORT(base, precision, class_, 16))}}; \
-        describe(family, &EXPORT(base, precision, class_, 4));                                                   \
-        list.push_back(std::move(family));                                                                       \
-    }
-#include "include/grid.def"
+    for (const Row& row : rows) list.push_back(family_of(row));
     return list;
 }
 

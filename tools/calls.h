@@ -21,7 +21,14 @@ constexpr int room(int width) { return width == 3 ? 4 : width; }
 
 // Reads each operand's lanes (room(width) of them) from operands[i], writes each result's lanes to results[i]. A
 // pointer output is written by the export itself, straight to results[1].
-using Call = void (*)(const void* const* operands, void* const* results);
+using Function = void (*)();
+using Invoke = void(Function, const void* const* operands, void* const* results);
+struct Call {
+    Invoke* invoke;  // knows the type that the function has
+    Function function;
+
+    void operator()(const void* const* operands, void* const* results) const { invoke(function, operands, results); }
+};
 
 struct Family {
     std::string name, base, signature;

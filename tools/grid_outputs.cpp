@@ -3,8 +3,8 @@
 //   grid_outputs header          include/ocl_zorv_v8.h
 //   grid_outputs builtins        include/ocl_zorv_v8_builtins.h
 //   grid_outputs version_script  the linker's list of exports
-//   grid_outputs families        the README's table
-//   grid_outputs readme          README.md, given as standard input, with that table renewed
+//   grid_outputs readme          README.md, given as standard input, with its table of operations renewed
+//   grid_outputs families        docs/families.md
 #include <algorithm>
 #include <cctype>
 #include <cmath>
@@ -46,10 +46,10 @@ const int planned = 0
 constexpr int widths[] = {1, 2, 3, 4, 8, 16};
 
 struct Operation {
-    string builtin, what;
+    string builtin, what, file;  // the file that tells of it, in its group's folder
 };
 const std::map<string, Operation> operations = {
-#define OPERATION(base, builtin, what) {#base, {#builtin, what}},
+#define OPERATION(base, builtin, what) {#base, {#builtin, what, __FILE__}},
 #include "include/operations.def"
 };
 
@@ -85,9 +85,10 @@ Operation operation_of(const Family& family) {
     if (auto found = conversions.find(family.base); found != conversions.end()) {
         const Conversion& c = found->second;
         const string& integer = integer_types.at(c.integer);
-        return {"convert", c.to_integer
-                               ? "x as " + integer + ", rounded " + roundings.at(c.rounding)
-                               : "x, of " + integer + " lanes, as floating, rounded " + roundings.at(c.rounding)};
+        return {"convert",
+                c.to_integer ? "x as " + integer + ", rounded " + roundings.at(c.rounding)
+                             : "x, of " + integer + " lanes, as floating, rounded " + roundings.at(c.rounding),
+                "kernels/conversions/"};
     }
     if (auto found = operations.find(family.base); found != operations.end()) return found->second;
     std::fprintf(stderr, "no OPERATION for %s\n", family.base.c_str());
@@ -237,6 +238,10 @@ void print_header() {
         "#if !defined(__clang__) || !defined(__i386__) || !defined(__SSE2__)\n"
         "#error \"ocl_zorv_v8.h needs clang with -m32 -msse2: the functions follow its convention for vector "
         "operands\"\n"
+        "#endif\n"
+        "#ifdef __AVX__\n"
+        "#error \"ocl_zorv_v8.h needs -mno-avx: with AVX clang passes vectors of more than 16 bytes in ymm registers, "
+        "where the functions neither look nor return\"\n"
         "#endif\n"
         "\n"
         "#ifdef __OPENCL_C_VERSION__\n"
@@ -452,8 +457,28 @@ void print_version_script() {
     std::puts("  local: *;\n};");
 }
 
+// ---- Tables in Markdown. -----------------------------------------------------------------------------------
+
+string in_cell(string text) {
+    for (size_t at = 0; (at = text.find('|', at)) != string::npos; at += 2) text.insert(at, "\\");
+    return text;
+}
+
+string lower_case_start(string text) {
+    text[0] = static_cast<char>(std::tolower(static_cast<unsigned char>(text[0])));
+    return text;
+}
+
+string bound_cell(double bound) {
+    if (bound == 0) return "exact";
+    if (std::isinf(bound)) return "cancels";
+    char text[32];
+    std::snprintf(text, sizeof text, "%g", bound);
+    return text;
+}
+
 // One row for each operation: its error in ulp at each precision and class.
-void print_families() {
+void print_operations() {
     std::vector<string> bases;
     std::map<string, std::map<string, double>> bounds;  // by base, then by "float_ accurate" and so on
     size_t standing_conversions = 0;
@@ -470,29 +495,116 @@ void print_families() {
     std::puts("| operation | computes | float | double | float, native | double, native |");
     std::puts("|---|---|---|---|---|---|");
     for (const string& base : bases) {
-        string what = operations.at(base).what;
-        what[0] = static_cast<char>(std::tolower(static_cast<unsigned char>(what[0])));
-        for (size_t at = 0; (at = what.find('|', at)) != string::npos; at += 2) what.insert(at, "\\");
+        string what = in_cell(lower_case_start(operations.at(base).what));
         std::printf("| `%s` | %s |", base.c_str(), what.c_str());
         for (const char* column : {"float_ accurate", "double_ accurate", "float_ native", "double_ native"}) {
             auto bound = bounds[base].find(column);
             if (bound == bounds[base].end())
                 std::printf(" |");
-            else if (bound->second == 0)
-                std::printf(" exact |");
-            else if (std::isinf(bound->second))
-                std::printf(" cancels |");
             else
-                std::printf(" %g |", bound->second);
+                std::printf(" %s |", bound_cell(bound->second).c_str());
         }
         std::puts("");
     }
     if (standing_conversions != 0)
         std::printf(
             "\nBeside these stand %zu conversions between `float` or `double` and `int`, `uint`, `long` or `ulong`, in "
-            "four\nroundings; to integers with and without saturation. Their errors stand in "
-            "the header `ocl_zorv_v8.h`.\n",
+            "four\nroundings; to integers with and without saturation. [docs/families.md](docs/families.md) lists "
+            "every "
+            "family, group by group.\n",
             standing_conversions);
+}
+
+// "quotients" from kernels/quotients/operations.def.
+string group_of(const Family& family) {
+    const string kernels = "kernels/", file = operation_of(family).file;
+    size_t start = file.rfind(kernels) + kernels.size();
+    return file.substr(start, file.find('/', start) - start);
+}
+
+struct Title {
+    const char *group, *text;
+};
+constexpr Title titles[] = {
+    {"quotients", "Quotients and roots"},
+    {"exact", "Exact operations"},
+    {"explog", "Exponentials and logarithms"},
+    {"powers", "Powers"},
+    {"trig", "Trigonometric functions"},
+    {"inverse_trig", "Inverse trigonometric functions"},
+    {"hyperbolic", "Hyperbolic functions"},
+    {"special", "Error and gamma functions"},
+    {"conversions", "Conversions"},
+};
+
+// A row of a family, or of several that differ in precision or in rounding alone.
+struct Listed {
+    string names, builtin, what, bound, special;
+
+    bool tells_the_same(const Listed& other) const {
+        return builtin == other.builtin && what == other.what && bound == other.bound && special == other.special;
+    }
+};
+
+Listed listed(const Family& family) {
+    string builtin = builtin_name(family), names = family.name(), what = operation_of(family).what;
+    if (auto found = conversions.find(family.base); found != conversions.end()) {
+        // The roundings, which tell themselves, share a row.
+        const Conversion& c = found->second;
+        auto cut = [](string text, const string& part, const string& put) {
+            if (size_t at = text.rfind(part); at != string::npos) text.replace(at, part.size(), put);
+            return text;
+        };
+        names = cut(family.name(), c.rounding, "*");
+        what = cut(what, ", rounded " + roundings.at(c.rounding), "");
+        builtin = "convert_" + signature_of(family).result + "<n>" + (c.saturation == "sat" ? "_sat" : "") + "_*";
+    }
+    if (family.base == "inv" || family.base == "div") builtin = builtin == "none" ? "/" : builtin;
+    return {"`" + names + "`", builtin == "none" ? "" : "`" + builtin + "`", in_cell(lower_case_start(what)),
+            conversions.contains(family.base) ? "as rounded" : bound_cell(family.bound),
+            in_cell(about(family).special)};
+}
+
+void print_families() {
+    std::puts(
+        "# The families\n\n"
+        "Written by `grid_outputs families`; do not edit: `cmake --build build/release --target readme`.\n\n"
+        "Each stands at the widths 1, 2, 3, 4, 8 and 16: `sqrtf` is `__ocl_zorv_v8_sqrtf1` to `__ocl_zorv_v8_sqrtf16`, "
+        "and\n`sqrtf_native` ends in `_native` behind the width. The built-in is the one, or the operator, that the "
+        "family "
+        "is for:\n`ocl_zorv_v8_builtins.h` turns the named ones into calls; without one, the family is called by its "
+        "own "
+        "name. Errors are\nthe largest, in units in the last place; 0.5 is correctly rounded, *cancels* is a sum of "
+        "two "
+        "roundings. How each is\ncomputed is told in the header `ocl_zorv_v8.h`.");
+    size_t told = 0;
+    for (const Title& title : titles) {
+        std::vector<Listed> rows;
+        for (const Family& family : families) {
+            if (group_of(family) != title.group) continue;
+            ++told;
+            Listed next = listed(family);
+            auto same = std::ranges::find_if(rows, [&](const Listed& row) { return row.tells_the_same(next); });
+            if (same == rows.end())
+                rows.push_back(next);
+            else if (same->names.find(next.names) == string::npos)
+                same->names += ", " + next.names;
+        }
+        if (rows.empty()) continue;
+        std::printf("\n## %s\n\n", title.text);
+        if (string(title.group) == "conversions")
+            std::puts(
+                "`*` is the rounding: `rtn` to nearest, ties to even (OpenCL's `_rte`), `rtz` toward zero (`_rtz`), "
+                "`up` (`_rtp`), `down`\n(`_rtn`). `<n>` is the width.\n");
+        std::puts("| family | built-in | computes | error | range and special values |\n|---|---|---|---|---|");
+        for (const Listed& row : rows)
+            std::printf("| %s | %s | %s | %s | %s |\n", row.names.c_str(), row.builtin.c_str(), row.what.c_str(),
+                        row.bound.c_str(), row.special.c_str());
+    }
+    if (told != families.size()) {
+        std::fputs("a group of kernels has no title\n", stderr);
+        std::exit(1);
+    }
 }
 
 // The README from standard input, its table of families renewed.
@@ -503,7 +615,7 @@ void print_readme() {
         if (!in_table) std::puts(line.c_str());
         if (line.starts_with("<!-- families")) {
             in_table = true;
-            print_families();
+            print_operations();
         }
     }
 }

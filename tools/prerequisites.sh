@@ -1,4 +1,4 @@
-# Sourced by ./demo and ./check: finds out what a machine lacks and installs it, or says how to.
+# Sourced by ./demo, ./check and .ci/run: finds out what a machine lacks and installs it, or says how to.
 # shellcheck shell=bash
 
 # Does the machine have what this Debian package brings? Found by using it, so another system's package counts too.

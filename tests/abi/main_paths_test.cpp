@@ -3,12 +3,13 @@
 // converts by truncation nor strays to the x87 but for a width-1 return.
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <cstdio>
 #include <map>
 #include <memory>
-#include <regex>
 #include <set>
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "tools/calls.h"
@@ -19,23 +20,29 @@ struct Instruction {
     std::string mnemonic, operands;
 };
 
+std::string_view trimmed(std::string_view text) {
+    size_t first = text.find_first_not_of(" \n");
+    return first == text.npos ? "" : text.substr(first, text.find_last_not_of(" \n") + 1 - first);
+}
+
 // Every function of the library, by name.
 std::map<std::string, std::vector<Instruction>> disassemble(const std::string& library) {
-    std::string command = "objdump -d --no-show-raw-insn " + library;
+    std::string command = "objdump -d --no-show-raw-insn '" + library + "'";
     std::unique_ptr<FILE, int (*)(FILE*)> pipe(popen(command.c_str(), "r"), pclose);
     std::map<std::string, std::vector<Instruction>> functions;
     std::vector<Instruction>* current = nullptr;
-    const std::regex head("^[0-9a-f]+ <(.*)>:\\s*$");
-    const std::regex line("^\\s+[0-9a-f]+:\\s+(\\S+)\\s*(.*?)\\s*$");
     char text[4096];
     while (fgets(text, sizeof text, pipe.get())) {
-        std::string one(text);
-        if (!one.empty() && one.back() == '\n') one.pop_back();
-        std::smatch match;
-        if (std::regex_match(one, match, head))
-            current = &functions[match[1]];
-        else if (current && std::regex_match(one, match, line))
-            current->push_back({match[1], match[2]});
+        // "00001230 <name>:", or "    1230:\tmnemonic operands"
+        std::string_view line = trimmed(text);
+        if (size_t name = line.find(" <"); text[0] == '0' && name != line.npos) {
+            current = &functions[std::string(line.substr(name + 2, line.size() - name - 4))];
+        } else if (size_t tab = line.find('\t'); current && tab != line.npos) {
+            std::string_view instruction = line.substr(tab + 1);
+            size_t end = std::min(instruction.find(' '), instruction.size());
+            current->push_back(
+                {std::string(instruction.substr(0, end)), std::string(trimmed(instruction.substr(end)))});
+        }
     }
     return functions;
 }

@@ -14,14 +14,39 @@ using accuracy::Finding;
 using accuracy::Place;
 using accuracy::Range;
 
-std::vector<const grid::Family*> families_with_reference() {
+// Exact and correctly rounded families need no witness, a product and a sum have no bound, and what is worst for one
+// processor's estimate is not for another's.
+bool has_witness(const grid::Family& family) {
+    return accuracy::has_reference(family) && family.bound > 0.5 && std::isfinite(family.bound) &&
+           !family.is(grid::estimate | grid::batched);
+}
+
+template <class Choose>
+std::vector<const grid::Family*> families_where(Choose choose) {
     std::vector<const grid::Family*> list;
     for (const grid::Family& family : grid::families())
-        if (accuracy::has_reference(family)) list.push_back(&family);
+        if (choose(family)) list.push_back(&family);
     return list;
 }
 
+Range range_of(const grid::Family& family, const Place& place) {
+    for (const Range& range : accuracy::ranges_of(family))
+        if (range.name == place.range) return range;
+    ADD_FAILURE() << place.range << " is no range of " << family.name;
+    return {};
+}
+
+std::vector<Finding> findings_of(const grid::Family& family) {
+    std::vector<Finding> findings;
+    for (const Place& place : accuracy::read_worst(ZORV_WORST_DIRECTORY, family)) {
+        EXPECT_EQ(place.operands.size(), family.operands.size());
+        findings.push_back(accuracy::judge(family, place));
+    }
+    return findings;
+}
+
 class Bounds : public testing::TestWithParam<const grid::Family*> {};
+class BoundsWithWitness : public Bounds {};
 
 TEST_P(Bounds, HoldOverASampleOfEachRange) {
     const grid::Family& family = *GetParam();
@@ -37,27 +62,24 @@ TEST_P(Bounds, HoldOverASampleOfEachRange) {
     }
 }
 
-TEST_P(Bounds, AreReachedByTheWorstOperandsKnown) {
+TEST_P(Bounds, HoldAtTheWorstOperandsKnown) {
     const grid::Family& family = *GetParam();
-    std::vector<Range> ranges = accuracy::ranges_of(family);
-    double worst = 0, share = 1;
-    for (const Range& range : ranges) share = std::min(share, range.reached);
-    for (const Place& place : accuracy::read_worst(ZORV_WORST_DIRECTORY, family)) {
-        auto range = std::ranges::find(ranges, place.range, &Range::name);
-        ASSERT_NE(range, ranges.end()) << place.range << " is no range of " << family.name;
-        ASSERT_EQ(place.operands.size(), family.operands.size());
-        Finding finding = accuracy::judge(family, place);
-        EXPECT_LE(finding.error, accuracy::bound_of(family, *range)) << std::hex << finding.operand(0);
-        worst = std::max(worst, finding.error);
-    }
-    // Exact and correctly rounded families need no witness; a product and a sum have no bound; and what is worst for
-    // one processor's estimate is not for another's.
-    if (family.bound > 0.5 && std::isfinite(family.bound) && !family.is(grid::estimate | grid::batched))
-        EXPECT_GE(worst, share * family.bound)
-            << "a loose bound, or worst operands to be found anew: accuracy " << family.name << " --worst tests/worst";
+    for (const Finding& finding : findings_of(family))
+        EXPECT_LE(finding.error, accuracy::bound_of(family, range_of(family, finding.place)))
+            << std::hex << finding.operand(0);
 }
 
-INSTANTIATE_TEST_SUITE_P(Family, Bounds, testing::ValuesIn(families_with_reference()),
-                         [](const auto& info) { return info.param->name; });
+TEST_P(BoundsWithWitness, AreReachedByTheWorstOperandsKnown) {
+    const grid::Family& family = *GetParam();
+    double worst = 0;
+    for (const Finding& finding : findings_of(family)) worst = std::max(worst, finding.error);
+    EXPECT_GE(worst, 0.9 * family.bound) << "a loose bound, or worst operands to be found anew: accuracy "
+                                         << family.name << " --worst tests/worst";
+}
+
+std::string name_of(const testing::TestParamInfo<const grid::Family*>& info) { return info.param->name; }
+
+INSTANTIATE_TEST_SUITE_P(Family, Bounds, testing::ValuesIn(families_where(accuracy::has_reference)), name_of);
+INSTANTIATE_TEST_SUITE_P(Family, BoundsWithWitness, testing::ValuesIn(families_where(has_witness)), name_of);
 
 }  // namespace

@@ -34,11 +34,20 @@ if cmake -S "$source" -B "$scratch/build64" -DCMAKE_PREFIX_PATH="$scratch/moved"
     exit 1
 fi
 
+# Where AVX would move the operands, both headers stop.
+for header in ocl_zorv_v8.h ocl_zorv_v8_builtins.h; do
+    if echo "#include <$header>" | "$cc" -x cl -cl-std=CL1.2 -m32 -mavx -I "$scratch/moved/include" -fsyntax-only - \
+        2>"$scratch/refusal" || ! grep -q "needs -mno-avx" "$scratch/refusal"; then
+        echo "$header was not refused with AVX"
+        exit 1
+    fi
+done
+
 pc_folder=$(dirname "$(find "$scratch/moved" -name ocl_zorv_v8.pc)")
 flags=$(PKG_CONFIG_PATH=$pc_folder pkg-config --cflags ocl_zorv_v8)
 libraries=$(PKG_CONFIG_PATH=$pc_folder pkg-config --libs ocl_zorv_v8)
-# The flags are words of their own.
-# shellcheck disable=SC2086
-"$cc" $flags "$source/main.c" $libraries -o "$scratch/by_pkg_config"
+# The flags are words of their own, quoted by pkg-config.
+eval "set -- $flags \"\$source/main.c\" $libraries"
+"$cc" "$@" -o "$scratch/by_pkg_config"
 export LD_LIBRARY_PATH="$pc_folder/.."
 expect "$scratch/by_pkg_config"

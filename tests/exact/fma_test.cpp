@@ -58,20 +58,37 @@ struct Format<double> {
     static double get(mpfr_t from) { return mpfr_get_d(from, MPFR_RNDN); }
 };
 
+// MPFR's exponents kept to a format's for the life of the object; the other tests of the process have them whole.
+class ExponentRange {
+  public:
+    ExponentRange(mpfr_exp_t low, mpfr_exp_t high) {
+        mpfr_set_emin(low);
+        mpfr_set_emax(high);
+    }
+    ~ExponentRange() {
+        mpfr_set_emin(low_);
+        mpfr_set_emax(high_);
+    }
+    ExponentRange(const ExponentRange&) = delete;
+    ExponentRange& operator=(const ExponentRange&) = delete;
+
+  private:
+    mpfr_exp_t low_ = mpfr_get_emin(), high_ = mpfr_get_emax();
+};
+
 template <class Float>
 class Reference {
     using F = Format<Float>;
 
   public:
     Reference() {
-        mpfr_set_emin(2 - F::bias - F::mantissa_bits);
-        mpfr_set_emax(F::bias + 1);
         for (auto& value : values_) mpfr_init2(value, F::mantissa_bits + 1);
     }
     ~Reference() {
         for (auto& value : values_) mpfr_clear(value);
     }
     Float operator()(Float a, Float b, Float c, mpfr_rnd_t mode) {
+        ExponentRange range(2 - F::bias - F::mantissa_bits, F::bias + 1);
         F::set(values_[0], a);
         F::set(values_[1], b);
         F::set(values_[2], c);
