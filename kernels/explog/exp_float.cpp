@@ -14,9 +14,10 @@
 // of the sum's pattern. 2^k is an integer addition to the exponent field of P(r), with no test. The accurate
 // families are exact in that only while the result is a normal number; what lies beyond, infinities and NaN are
 // rare. The native families do not look: a lane out of range wraps, an infinity becomes NaN.
-#include "kernels/explog/explog_float_data.h"
 #include "frame/gather.h"
 #include "frame/lane_frame.h"
+#include "kernels/explog/explog_float_data.h"
+#include "kernels/explog/rare_exp.h"
 
 namespace zorv {
 namespace {
@@ -32,74 +33,9 @@ I4 not_ordinary(F4 x, const Data& data) {
 
 // ---- Rare lanes. -------------------------------------------------------------------------------------------
 
-// 2^(field - 127), or zero where the field is zero. Only the low eight bits of the field count.
-float power_of_two(int field) { return __builtin_bit_cast(float, (static_cast<uint32_t>(field) & 255) << 23); }
-
-// k of a sum with the shifter.
-int low_half(float shifted) { return static_cast<int16_t>(__builtin_bit_cast(uint32_t, shifted)); }
-
-constexpr float shifter = 0x1.8p23f;
-
-// A finite operand whose result is finite and not zero: e^x and 10^x.
-template <int degree>
-Status in_range(const ExponentialRareData<degree>& data, float x, float* result) {
-    float t = data.log2_base * x + shifter;
-    float k = t - shifter;
-    float r = (x - k * data.log_2_high) - k * data.log_2_low;
-    int n = low_half(t);
-    float p = data.c[0];
-    for (int i = 1; i <= degree; ++i) p = p * r + data.c[i];
-
-    if (!(x >= data.last_normal)) {  // one rounding, in the last product
-        *result = p * power_of_two(n - 69) * 0x1p-60f;
-        return RARE_UNDERFLOW;
-    }
-    if (static_cast<unsigned>(n + 127) > 254) {  // n = 128: 2^n itself is no float
-        *result = p * power_of_two(n + 126) * 2.0f;
-        return RARE_OK;
-    }
-    *result = p * power_of_two(n + 127);
-    return RARE_OK;
-}
-
-// The same for 2^x.
-Status in_range(const Exp2fRareData& data, float x, float* result) {
-    float t = x + shifter;
-    float r = x - (t - shifter);
-    int n = low_half(t);
-    float p = horner(r, data.c5, data.c4, data.c3, data.c2, data.c1, data.c0);
-
-    if (n < 104) {  // zero for n = -150
-        *result = p * power_of_two(n - 106) * 0x1p-23f;
-        return x < data.last_normal ? RARE_UNDERFLOW : RARE_OK;
-    }
-    *result = p * power_of_two(n) * 0x1p127f;  // infinite for n = 128
-    return RARE_OK;
-}
-
-// Overflow and underflow raise their flags by products that the compiler must not fold.
-template <class Data>
-Status exponential_rare(const Data& data, const float* operand, float* result) {
-    float x = *operand;
-    uint32_t pattern = __builtin_bit_cast(uint32_t, x);
-    if ((pattern & 0x7f800000) == 0x7f800000) {
-        *result = pattern == 0xff800000 ? 0.0f : x * x;
-        return RARE_OK;
-    }
-    if (!(x <= data.last_finite)) {
-        *result = opaque(__FLT_MAX__) * opaque(__FLT_MAX__);
-        return RARE_OVERFLOW;
-    }
-    if (!(x >= data.last_nonzero)) {
-        *result = opaque(__FLT_DENORM_MIN__) * opaque(__FLT_DENORM_MIN__);
-        return RARE_UNDERFLOW;
-    }
-    return in_range(data, x, result);
-}
-
-Status expf_rare(const float* x, float* result) { return exponential_rare(expf_rare_data, x, result); }
-Status exp2f_rare(const float* x, float* result) { return exponential_rare(exp2f_rare_data, x, result); }
-Status exp10f_rare(const float* x, float* result) { return exponential_rare(exp10f_rare_data, x, result); }
+Status expf_rare(const float* x, float* result) { return exponential_rare(expf_rare_data, *x, result); }
+Status exp2f_rare(const float* x, float* result) { return exponential_rare(exp2f_rare_data, *x, result); }
+Status exp10f_rare(const float* x, float* result) { return exponential_rare(exp10f_rare_data, *x, result); }
 
 // ---- Accurate. ---------------------------------------------------------------------------------------------
 
