@@ -42,6 +42,12 @@ inline LaneOffsets2 offsets_of(L2 lanes) {
     return {{static_cast<uint32_t>(_mm_extract_epi16(unit, 0)), static_cast<uint32_t>(_mm_extract_epi16(unit, 4))}};
 }
 
+// For a table whose first row has another offset or index than 0: the address of the load absorbs the subtraction.
+inline LaneOffsets operator-(LaneOffsets at, uint32_t first) {
+    return {{at.lane[0] - first, at.lane[1] - first, at.lane[2] - first, at.lane[3] - first}};
+}
+inline LaneOffsets2 operator-(LaneOffsets2 at, uint32_t first) { return {{at.lane[0] - first, at.lane[1] - first}}; }
+
 template <class Lane>
 inline const Lane& load_at(const Lane* column, uint32_t offset) {
     return *reinterpret_cast<const Lane*>(reinterpret_cast<const char*>(column) + offset);
@@ -90,6 +96,25 @@ struct ColumnPair {
 inline ColumnPair gather_pair(const double* columns, LaneOffsets2 at) {
     __m128d row0 = _mm_load_pd(&load_at(columns, at.lane[0])), row1 = _mm_load_pd(&load_at(columns, at.lane[1]));
     return {_mm_unpacklo_pd(row0, row1), _mm_unpackhi_pd(row0, row1)};
+}
+
+// Rows of two columns side by side, of whatever types: 64-bit ones, aligned to 16 bytes, seen as doubles, or 32-bit
+// ones, seen as floats.
+template <class Row>
+inline ColumnPair gather_pair(const Row* rows, LaneOffsets2 at) {
+    static_assert(sizeof(Row) == 16);
+    return gather_pair(reinterpret_cast<const double*>(rows), at);
+}
+struct FloatColumnPair {
+    F4 first, second;
+};
+template <class Row>
+inline FloatColumnPair gather_pair(const Row* rows, LaneOffsets at) {
+    static_assert(sizeof(Row) == 8);
+    auto row = [&](int lane) { return reinterpret_cast<const __m64*>(&load_at(rows, at.lane[lane])); };
+    __m128 rows01 = _mm_loadh_pi(_mm_loadl_pi(_mm_setzero_ps(), row(0)), row(1));
+    __m128 rows23 = _mm_loadh_pi(_mm_loadl_pi(_mm_setzero_ps(), row(2)), row(3));
+    return {_mm_shuffle_ps(rows01, rows23, 0x88), _mm_shuffle_ps(rows01, rows23, 0xdd)};
 }
 
 // Four float lanes that read rows of doubles: lanes 0 and 1 in the low unit, 2 and 3 in the high one.

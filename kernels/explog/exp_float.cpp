@@ -16,8 +16,8 @@
 // rare. The native families do not look: a lane out of range wraps, an infinity becomes NaN.
 #include "frame/gather.h"
 #include "frame/lane_frame.h"
-#include "frame/scalar.h"
 #include "kernels/explog/explog_float_data.h"
+#include "kernels/explog/rare_exp.h"
 
 namespace zorv {
 namespace {
@@ -33,62 +33,9 @@ I4 not_ordinary(F4 x, const Data& data) {
 
 // ---- Rare lanes. -------------------------------------------------------------------------------------------
 
-// k of a sum with the shifter.
-int low_half(float shifted) { return static_cast<int16_t>(pattern(shifted)); }
-
-constexpr float shifter = 0x1.8p23f;
-
-// A finite operand whose result is finite and not zero: e^x and 10^x.
-template <int degree>
-Status in_range(const ExponentialRareData<degree>& data, float x, float* result) {
-    float t = data.log2_base * x + shifter;
-    float k = t - shifter;
-    float r = (x - k * data.log_2_high) - k * data.log_2_low;
-    int n = low_half(t);
-    float p = horner(r, data.p);
-
-    if (!(x >= data.last_normal)) {  // one rounding, in the last product
-        *result = p * with_exponent_field<float>(n - 69) * 0x1p-60f;
-        return RARE_UNDERFLOW;
-    }
-    if (static_cast<unsigned>(n + 127) > 254) {  // n = 128: 2^n itself is no float
-        *result = p * with_exponent_field<float>(n + 126) * 2.0f;
-        return RARE_OK;
-    }
-    *result = p * with_exponent_field<float>(n + 127);
-    return RARE_OK;
-}
-
-// The same for 2^x.
-Status in_range(const Exp2fRareData& data, float x, float* result) {
-    float t = x + shifter;
-    float r = x - (t - shifter);
-    int n = low_half(t);
-    float p = horner(r, data.p);
-
-    if (n < 104) {  // zero for n = -150
-        *result = p * with_exponent_field<float>(n - 106) * 0x1p-23f;
-        return x < data.last_normal ? RARE_UNDERFLOW : RARE_OK;
-    }
-    *result = p * with_exponent_field<float>(n) * 0x1p127f;  // infinite for n = 128
-    return RARE_OK;
-}
-
-template <class Data>
-Status exponential_rare(const Data& data, const float* operand, float* result) {
-    float x = *operand;
-    if (is_infinite_or_nan(x)) {
-        *result = is_negative_infinity(x) ? 0.0f : x * x;
-        return RARE_OK;
-    }
-    if (!(x <= data.last_finite)) return overflow_result(result);
-    if (!(x >= data.last_nonzero)) return underflow_result(result);
-    return in_range(data, x, result);
-}
-
-Status expf_rare(const float* x, float* result) { return exponential_rare(expf_rare_data, x, result); }
-Status exp2f_rare(const float* x, float* result) { return exponential_rare(exp2f_rare_data, x, result); }
-Status exp10f_rare(const float* x, float* result) { return exponential_rare(exp10f_rare_data, x, result); }
+Status expf_rare(const float* x, float* result) { return exponential_rare(expf_rare_data, *x, result); }
+Status exp2f_rare(const float* x, float* result) { return exponential_rare(exp2f_rare_data, *x, result); }
+Status exp10f_rare(const float* x, float* result) { return exponential_rare(exp10f_rare_data, *x, result); }
 
 // ---- Accurate. ---------------------------------------------------------------------------------------------
 
@@ -99,7 +46,7 @@ struct expf {
         F4 t = x * data.log2_e + data.shifter;
         F4 k = t - data.shifter;
         F4 r = (x - k * data.ln2_high) - k * data.ln2_low;  // the first product is exact: 15 bits times 8
-        F4 p = horner(r, data.p);
+        F4 p = horner(r, data.c5, data.c4, data.c3, data.c2, data.c1, data.c0);
         return {times_power_of_two(p, t), not_ordinary(x, data)};
     }
     static constexpr auto rare = expf_rare;
@@ -112,7 +59,7 @@ struct exp2f {
         F4 t = x + data.shifter;
         F4 k = t - data.shifter;
         F4 r = x - k;
-        F4 p = horner(r, data.p);
+        F4 p = horner(r, data.c6, data.c5, data.c4, data.c3, data.c2, data.c1, data.c0);
         return {times_power_of_two(p, t), not_ordinary(x, data)};
     }
     static constexpr auto rare = exp2f_rare;
@@ -128,7 +75,7 @@ struct exp10f {
         F4 power = gather_indexed(data.powers, offsets_of(i));
         F4 k = t - data.shifter;
         F4 r = (x - k * data.step_high) - k * data.step_low;
-        F4 p = horner(r, data.p);
+        F4 p = r * data.c1 + data.c0;
         F4 y = p * power + power;
         I4 n = (bits(t) ^ i) << 14;  // k/512, rounded down, in the exponent field
         return {as_float(bits(y) + n), not_ordinary(x, data)};
@@ -145,7 +92,7 @@ struct expf_native {
         F4 t = x * data.log2_e + data.shifter;
         F4 k = t - data.shifter;
         F4 r = x - k * data.ln2;
-        F4 p = horner(r, data.p);
+        F4 p = horner(r, data.c3, data.c2, data.c1, data.c0);
         return times_power_of_two(p, t);
     }
 };
@@ -155,7 +102,7 @@ F4 exp2f_short(F4 x, const Data& data) {
     F4 t = x + data.shifter;
     F4 k = t - data.shifter;
     F4 r = x - k;
-    F4 p = horner(r, data.p);
+    F4 p = horner(r, data.c3, data.c2, data.c1, data.c0);
     return times_power_of_two(p, t);
 }
 

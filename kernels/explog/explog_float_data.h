@@ -3,6 +3,7 @@
 
 #include "frame/polynomial.h"
 #include "frame/record.h"
+#include "kernels/explog/log_reduction_data.h"
 
 namespace zorv {
 
@@ -62,11 +63,6 @@ HIDDEN extern const ExponentialRareData<6> exp10f_rare_data;
 
 // ---- Logarithms. -------------------------------------------------------------------------------------------
 
-// x = f 2^k with f in [2/3, 4/3).
-struct MantissaSplitData {
-    Slot<int32_t> two_thirds, mantissa;
-    Slot<float> one;
-};
 struct LogfData {
     MantissaSplitData split;
     Coefficients<float, 9> q;
@@ -106,34 +102,5 @@ HIDDEN extern const Log10fData log10f_data;
 HIDDEN extern const LogfNativeData logf_native_data;
 HIDDEN extern const Log2fNativeData log2f_native_data;
 HIDDEN extern const Log10fNativeData log10f_native_data;
-
-// Row i serves mantissas about 1 + i/64: a short reciprocal, times `unit` in the bases 2 and 10, and minus its
-// logarithm in two parts.
-struct LogRareRow {
-    float c, high, low;
-};
-struct LogfRareData {
-    Scalar<float> subnormal_scale, near_one;
-    Scalar<float> c6, c5, c4, c3, c2, c1, c0;
-    Scalar<float> ln2_high, ln2_low, ln2;
-    LogRareRow rows[65];
-};
-struct Log2fRareData {
-    Scalar<float> subnormal_scale, near_one;
-    Scalar<float> unit;  // 256 log2(e), short
-    Scalar<float> p7, p6, p5, p4, p3, p2, p1, p0;
-    LogRareRow rows[65];
-};
-struct Log10fRareData {
-    Scalar<float> subnormal_scale, near_one;
-    Scalar<float> unit;  // 256 log10(e), short
-    Scalar<float> p7, p6, p5, p4, p3, p2, p1, p0;
-    Scalar<float> log10_2_high, log10_2_low;
-    LogRareRow rows[65];
-};
-
-HIDDEN extern const LogfRareData logf_rare_data;
-HIDDEN extern const Log2fRareData log2f_rare_data;
-HIDDEN extern const Log10fRareData log10f_rare_data;
 
 }  // namespace zorv

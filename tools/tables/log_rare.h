@@ -1,4 +1,4 @@
-// The tables of the scalar float logarithms: row i is chosen by a mantissa about 1 + i/64 and holds a short
+// The tables of the scalar logarithms: row i is chosen by a mantissa about 1 + i/64 and holds a short
 // reciprocal c of it, times the unit of the family, and minus the logarithm of c in two parts, the first short.
 #pragma once
 
@@ -31,5 +31,13 @@ inline void log_row(float c, const Real& minus_log, int high_bits, int index) {
     Real high = floor(minus_log / step) * step;
     std::printf("    {%a, %a, %a},  // %d\n", c, high.as_float(), (minus_log - high).as_float(), index);
 }
+
+// The same in double: `minus_log` rounded to `high_bits` fraction bits, and the rest.
+inline void log_row(double c, const Real& minus_log, int high_bits, int index) {
+    Real high = to_fraction_bits(minus_log, high_bits);
+    std::printf("    {%a, %a, %a},  // %d\n", c, high.as_double(), (minus_log - high).as_double(), index);
+}
+// Row 64 is log(2), cut like the constant that exponents are multiplied by: the two cancel.
+inline int high_bits_of_row(int i) { return i == 64 ? 42 : 37; }
 
 }  // namespace tables

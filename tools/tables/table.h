@@ -1,7 +1,7 @@
 // What the table generators share: exact values in MPFR, printed as rows of C++ initialisers.
 //
-// A generator prints one table to standard output. The committed table in data/tables/ must equal that output; the
-// test suite compares them.
+// A generator prints one table to standard output. The committed table, in kernels/*/tables/, must equal that output;
+// the test suite compares them.
 #pragma once
 
 #include <mpfr.h>
@@ -72,6 +72,17 @@ inline Real pi() {
     mpfr_const_pi(result.get(), MPFR_RNDN);
     return result;
 }
+
+// To the nearest multiple of 2^-bits.
+inline Real to_fraction_bits(const Real& x, int bits) {
+    Real result;
+    mpfr_mul_2si(result.get(), x.get(), bits, MPFR_RNDN);
+    mpfr_rint(result.get(), result.get(), MPFR_RNDN);
+    mpfr_div_2si(result.get(), result.get(), bits, MPFR_RNDN);
+    return result;
+}
+inline double number(uint64_t pattern) { return __builtin_bit_cast(double, pattern); }
+inline float number(uint32_t pattern) { return __builtin_bit_cast(float, pattern); }
 
 inline void header(const char* what, const char* generator) {
     std::printf("// %s\n// Written by tools/tables/%s.cpp; do not edit.\n// clang-format off\n", what, generator);
