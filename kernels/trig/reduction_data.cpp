@@ -5,6 +5,7 @@ namespace zorv {
 const ReductionfData reductionf_data = {
     .magnitude = 0x7fffffff,     //
     .sign = 0x80000000,          //
+    .infinity = 0x7f800000,      //
     .mantissa = 0x007fffff,      //
     .implicit_bit = 0x00800000,  //
     .low_half = 0x0000ffff,      //
@@ -25,6 +26,7 @@ const ReductionfData reductionf_data = {
 const ReductiondData reductiond_data = {
     .magnitude = 0x7fffffffffffffff,     //
     .sign = 0x8000000000000000,          //
+    .infinity = 0x7ff0000000000000,      //
     .mantissa = 0x000fffffffffffff,      //
     .implicit_bit = 0x0010000000000000,  //
     .low_half = 0x00000000ffffffff,      //

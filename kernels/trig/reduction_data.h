@@ -11,7 +11,7 @@ struct ReductionData {
     static constexpr int word_bits = 8 * sizeof(Float);
     static constexpr int mantissa_bits = sizeof(Float) == 4 ? 23 : 52;
 
-    Slot<Integer> magnitude, sign, mantissa, implicit_bit;
+    Slot<Integer> magnitude, sign, infinity, mantissa, implicit_bit;
     Slot<Integer> low_half;         // of a word: its bits of a 1 x 1 product column
     Slot<Float> one, turn_shifter;  // rounds to 1/256 (float) or 1/512 (double) of a turn
     Slot<Integer> index_mask;

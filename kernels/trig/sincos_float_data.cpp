@@ -59,8 +59,7 @@ const NativeSinefData sincosf_native_data = native;
 const NativeSinefData sincosregf_native_data = native;
 
 const TurnSinefData turn_sinef_data = {
-    .sign = 0x80000000,      //
-    .infinity = 0x7f800000,  //
+    .sign = 0x80000000,  //
     .s1 = 0xbe2aaaab,        // -0.166666672
     .s2 = 0x3c08885c,        // 0.00833329186
     .c1 = 0xbf000000,        // -0.5

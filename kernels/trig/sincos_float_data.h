@@ -28,7 +28,7 @@ HIDDEN extern const NativeSinefData sincosregf_native_data;
 
 // The long path, the same in all of them.
 struct TurnSinefData {
-    Slot<int32_t> sign, infinity;
+    Slot<int32_t> sign;
     Slot<float> s1, s2;  // sin y - y
     Slot<float> c1, c2;  // cos y - 1
 };

@@ -32,6 +32,13 @@ class Real {
         mpfr_prec_round(result.value_, 400, MPFR_RNDN);
         return result;
     }
+    // Cut off toward zero, to this many significant bits.
+    Real truncated(int significant_bits) const {
+        Real result = *this;
+        mpfr_prec_round(result.value_, significant_bits, MPFR_RNDZ);
+        mpfr_prec_round(result.value_, 400, MPFR_RNDN);
+        return result;
+    }
     double as_double() const { return mpfr_get_d(value_, MPFR_RNDN); }
     float as_float() const { return mpfr_get_flt(value_, MPFR_RNDN); }
 

@@ -1,0 +1,139 @@
+// sin x, cos x and both together, double precision.
+//
+// The accurate class has two paths, chosen for the whole vector. While no lane is beyond the limit (2^24 for the sine
+// by itself, 2^23 elsewhere), the short one: subtract multiples of pi, its parts short enough for exact products, and
+// one odd polynomial. Otherwise all lanes take the long one: the reduction to 1/512 of a turn, a table of sine and
+// cosine, and head and tail arithmetic; it is the more accurate one, so the last bits of a lane can depend on whether
+// a neighbour is beyond the limit.
+//
+// The native class is a short path alone, with pi in three parts and four coefficients. Its remainder loses accuracy
+// as |x| grows, and from about 2^52 on the result is no sine any more.
+//
+// Rare: infinities and NaN, on the long path. A NaN with no lane beyond the limit comes out of the short path's
+// arithmetic, and so do infinities in the native class.
+#include "frame/lane_frame.h"
+#include "kernels/trig/long_path.h"
+#include "kernels/trig/short_path.h"
+#include "kernels/trig/sincos_double_data.h"
+#include "kernels/trig/turn.h"
+
+namespace zorv {
+namespace {
+
+// ---- Short path. -------------------------------------------------------------------------------------------
+
+//   |x| = N pi + y;  sin |x| = +-sin y
+template <class Data>
+D2 short_sine(D2 x, const Data& data) {
+    D2 a = and_bits(x, data.magnitude);
+    D2 t = a * data.inverse_pi + data.shifter;
+    D2 n = t - data.shifter;
+    D2 y = subtract_parts(a, n, data.pi);
+    return xor_bits(signed_sine(y, odd_sign(t), data.c), bits(x) & data.sign);
+}
+
+//   cos x = sin(x + pi/2);  x = (N - 1/2) pi + y
+template <class Data>
+D2 short_cosine(D2 x, const Data& data) {
+    D2 t = (x + data.half_pi) * data.inverse_pi + data.shifter;
+    D2 m = (t - data.shifter) - data.half;
+    D2 y = subtract_parts(x, m, data.pi);
+    return xor_bits(sine_polynomial(y, y * y, data.c), odd_sign(t));
+}
+
+//   |x| = N pi + y;  |x| = (N +- 1/2) pi + z, on the side of y's sign, which two parts of pi decide
+template <class Data>
+Both<D2, D2> short_sine_and_cosine(D2 x, const Data& data) {
+    D2 a = and_bits(x, data.magnitude);
+    D2 t = a * data.inverse_pi + data.shifter;
+    D2 n = t - data.shifter;
+    D2 g = subtract_parts(a, n, data.pi, 0, 2);
+    L2 side = bits(g) & data.sign;
+    D2 m = n + or_bits(data.half, side);
+    D2 z = subtract_parts(a, m, data.pi);
+    D2 y = subtract_parts(g, n, data.pi, 2);
+    D2 cosine = xor_bits(sine_polynomial(z, z * z, data.c), side ^ odd_sign(t) ^ data.sign);
+    D2 sine = xor_bits(sine_polynomial(y, y * y, data.c), odd_sign(t) ^ (bits(x) & data.sign));
+    return {sine, cosine};
+}
+
+// ---- Long path: functions of their own, one for all widths. ------------------------------------------------
+
+struct LongSine {
+    using Unit = D2;
+    [[gnu::noinline]] static D2 main(D2 x) {
+        const auto& data = in_memory(turn_sined_data);
+        auto reduced = reduce(clear_bits(x, data.sign));
+        auto entry = turn_entry(turn_table_d, row_of(reduced.j));
+        D2 sine = sum_alone(turn_terms(entry, reduced, turn_polynomials(reduced.y, data)));
+        return xor_bits(sine, bits(x) & data.sign);
+    }
+};
+
+// The sign of x goes into the turn index and the remainder.
+struct LongCosine {
+    using Unit = D2;
+    [[gnu::noinline]] static D2 main(D2 x) {
+        auto reduced = reduce(x);
+        const auto& data = in_memory(turn_sined_data);
+        auto entry = turn_entry(turn_table_d + quarter_turn_d, row_of(reduced.j));
+        return sum_alone(turn_terms(entry, reduced, turn_polynomials(reduced.y, data)));
+    }
+};
+
+struct LongSineAndCosine {
+    using Unit = D2;
+    [[gnu::noinline, gnu::regcall]] static Both<D2, D2> main(D2 x) {
+        const auto& data = in_memory(turn_sined_data);
+        auto reduced = reduce(clear_bits(x, data.sign));
+        auto p = turn_polynomials(reduced.y, data);
+        LaneOffsets2 row = row_of(reduced.j);
+        D2 sine = sum_of_paired_sine(turn_terms(turn_entry(turn_table_d, row), reduced, p));
+        D2 cosine = sum_of_paired_cosine(turn_terms(turn_entry(turn_table_d + quarter_turn_d, row), reduced, p));
+        return {xor_bits(sine, bits(x) & data.sign), cosine};
+    }
+};
+
+// ---- The families. -----------------------------------------------------------------------------------------
+
+struct sin {
+    static D2 main(D2 x) { return short_sine(x, in_memory(sin_data).short_path); }
+    static L2 beyond(D2 x) { return and_bits(x, sin_data.short_path.magnitude) > sin_data.limit; }
+    using LongPath = Repaired<LongSine>;
+};
+struct sin_native {
+    static D2 main(D2 x) { return short_sine(x, in_memory(sin_native_data)); }
+};
+
+struct cos {
+    static D2 main(D2 x) { return short_cosine(x, in_memory(cos_data).short_path); }
+    // Of the sum that the quotient is taken of: the path changes at -2^23 - pi/2 and 2^23 - pi/2.
+    static L2 beyond(D2 x) {
+        return and_bits(x + cos_data.short_path.half_pi, cos_data.short_path.magnitude) > cos_data.limit;
+    }
+    using LongPath = Repaired<LongCosine>;
+};
+struct cos_native {
+    static D2 main(D2 x) { return short_cosine(x, in_memory(cos_native_data)); }
+};
+
+template <const auto& record>
+struct SineAndCosine {
+    static Both<D2, D2> main(D2 x) { return short_sine_and_cosine(x, in_memory(record).short_path); }
+    static L2 beyond(D2 x) { return and_bits(x, record.short_path.magnitude) > record.limit; }
+    using LongPath = Repaired<LongSineAndCosine>;
+};
+template <const auto& record>
+struct NativeSineAndCosine {
+    static Both<D2, D2> main(D2 x) { return short_sine_and_cosine(x, in_memory(record)); }
+};
+using sincos = SineAndCosine<sincos_data>;
+using sincos_native = NativeSineAndCosine<sincos_native_data>;
+// The same, handed over by value.
+using sincosreg = SineAndCosine<sincosreg_data>;
+using sincosreg_native = NativeSineAndCosine<sincosreg_native_data>;
+
+}  // namespace
+}  // namespace zorv
+
+#include "frame/exports.h"
