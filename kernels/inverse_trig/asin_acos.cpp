@@ -17,6 +17,16 @@
 //
 // Rare: magnitudes of 1 and above, where h is 0 or negative and the estimate useless. A NaN comes through by itself.
 // The native class does not look, and has NaN there, at 1 too.
+//
+// Errors in ulp, where the estimate is as bad as it may be, 1.5 * 2^-12 off either way, and where it is this
+// processor's; random operands:
+//
+//             accurate                       native
+//             float        double            float       double
+//   asin      3.55  2.94   3.19  2.97        539  535    5.85e6  4.74e6    just above 1/2
+//   acos      2.42  2.30   2.45  2.09        530  532    5.66e6  4.83e6    between 1/2 and 1
+//   asinpi    4.57  3.76   4.49  3.93        686  681    7.45e6  6.04e6    just above 1/2
+//   acospi    3.29  3.02   3.15  3.13        530  532    5.59e6  4.53e6    between 1/2 and 1
 #include "frame/lane_frame.h"
 #include "frame/scalar.h"
 #include "kernels/inverse_trig/asin_acos_data.h"

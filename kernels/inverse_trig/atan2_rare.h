@@ -50,6 +50,8 @@ inline HeadTail<double> arctangent(double y, double x) {
     //   atan(y/x) = atan c + atan z,  z = (y - x c) / (x + y c),  c next to y/x, of three bits
     uint32_t high = static_cast<uint32_t>(pattern(q) >> 32);
     double c = from_pattern(static_cast<uint64_t>((high & 0xfff80000) | 0x00040000) << 32);
+    // The rows end below quotients of 2^54. Only a subnormal x brings greater ones here; they take the last row, whose
+    // angle is a third of an ulp of pi/2 short for them.
     uint32_t row = (high - 0x3fc00000) >> 19;
     const auto& step = arctangent_rare_data.steps[row < 113 ? row : 113];
     HeadTail<double> xc = exact_product(x, c);

@@ -12,6 +12,18 @@
 //   accurate        the hardware's divide          estimate of 1/x and a Newton step; in double to the fifth power
 //   native          estimate of 1/x and a Newton step; in double to the third power
 //
+// Errors in ulp, most of them where both magnitudes are nearly equal; random operands. With two numbers the first is
+// for an estimate as bad as it may be, 1.5 * 2^-12 off either way, the second for this processor's.
+//
+//             accurate                       native
+//             float        double            float        double
+//   atan      3.52         4.69              3773  3772   2.21e7  2.18e7
+//   atan2     3.64         4.60              3776  3775   2.21e7  2.17e7
+//   atanpi    4.48  3.51   3.33              3774  3773   2.21e7  2.18e7
+//   atan2pi   6.58  5.43   4.07  3.97        3776  3774   2.21e7  2.18e7
+//
+// In rare lanes half an ulp, but for atan2 0.73 beside a subnormal x, atanpi 0.86 and atan2pi 1.64.
+//
 // Accurate atan is complete. The other accurate families hold their bounds where exponents are neither huge nor tiny;
 // zeros, infinities, NaN and the ends of the range are rare. The native class does not look: a NaN comes of infinities,
 // and of a point on the positive y axis, where x = +0 is taken as negative, an angle of 3/4 of a turn.
