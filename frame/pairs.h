@@ -61,4 +61,29 @@ inline HeadTail<Value> exact_product(HeadTail<Value> x, HeadTail<Value> y, Value
     return {product, (((x.head * y.head - product) + x.head * y.tail) + x.tail * y.head) + x.tail * y.tail};
 }
 
+// ---- Double-double: scalar numbers of about 106 bits, the head the number rounded to nearest. ----------------
+
+// x * y exactly, where nothing overflows or underflows on the way.
+inline HeadTail<double> exact_product(double x, double y) {
+    constexpr double multiplier = 0x1p27 + 1;
+    return exact_product(split_by_product(x, multiplier), split_by_product(y, multiplier), x * y);
+}
+
+inline HeadTail<double> sum(HeadTail<double> x, HeadTail<double> y) {
+    HeadTail<double> heads = two_sum(x.head, y.head), tails = two_sum(x.tail, y.tail);
+    HeadTail<double> most = fast_two_sum(heads.head, heads.tail + tails.head);
+    return fast_two_sum(most.head, most.tail + tails.tail);
+}
+inline HeadTail<double> product(HeadTail<double> x, double y) {
+    HeadTail<double> p = exact_product(x.head, y);
+    return fast_two_sum(p.head, p.tail + x.tail * y);
+}
+// The rounded quotient, and what its exact remainder adds.
+inline HeadTail<double> quotient(HeadTail<double> x, HeadTail<double> y) {
+    double q = x.head / y.head;
+    HeadTail<double> p = exact_product(q, y.head);
+    double remainder = (((x.head - p.head) - p.tail) + x.tail) - q * y.tail;
+    return fast_two_sum(q, remainder / y.head);
+}
+
 }  // namespace zorv
