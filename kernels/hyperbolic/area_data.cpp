@@ -112,8 +112,8 @@ static constexpr AreaLogData<terms> area_log(Coefficients<double, terms> p) {
     };
 }
 static constexpr auto log_accurate = area_log<4>({{
-    0x3fc9999cacdb4d0a,  // 0.200000366306092
-    0xbfd0000148058ee1,  // -0.25000030548955585
+    0x3fc9999cacdb4d0a,  // 0.2000003665949424
+    0xbfd0000148058ee1,  // -0.2500003054940248
     0x3fd55555555543c5,  // 0.33333333333308374
     0xbfdffffffffff81f,  // -0.49999999999988803
 }});
