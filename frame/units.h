@@ -111,6 +111,16 @@ inline D2 add_in_order(D2 x, D2 y) {
 
 inline D2 hardware_sqrt(D2 x) { return _mm_sqrt_pd(x); }
 
+// Each signed 16-bit word between two bounds: the integer minimum and maximum that the unit has. For lanes whose value
+// stands in one word, the others being zero.
+inline I4 clamp_words(I4 x, I4 low, I4 high) {
+    __m128i raised = _mm_max_epi16(unit_cast<__m128i>(x), unit_cast<__m128i>(low));
+    return unit_cast<I4>(_mm_min_epi16(raised, unit_cast<__m128i>(high)));
+}
+inline L2 clamp_words(L2 x, L2 low, L2 high) {
+    return unit_cast<L2>(clamp_words(unit_cast<I4>(x), unit_cast<I4>(low), unit_cast<I4>(high)));
+}
+
 // ---- 64-bit lanes seen as pairs of 32-bit halves. ----------------------------------------------------------
 
 inline I4 halves(L2 x) { return reinterpret_cast<I4>(x); }

@@ -73,6 +73,7 @@ TABLES_UNARY(exp2, mpfr_exp2)
 TABLES_UNARY(sin, mpfr_sin)
 TABLES_UNARY(cos, mpfr_cos)
 TABLES_UNARY(atan, mpfr_atan)
+TABLES_UNARY(tanh, mpfr_tanh)
 #undef TABLES_UNARY
 
 inline Real pi() {
