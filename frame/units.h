@@ -146,6 +146,17 @@ inline L2 high_below(L2 x, I4 bound) { return spread_high(halves(x) < bound); }
 // taken off. `two_to_52` is that number's pattern.
 inline D2 small_integer_to_double(L2 x, D2 two_to_52) { return as_double(x | bits(two_to_52)) - two_to_52; }
 
+// The 32-bit integers beside a D2, as doubles, exactly; and each one's parity as the sign bit of its lane.
+inline D2 to_double(N2 n) {
+    return _mm_cvtepi32_pd(reinterpret_cast<__m128i>(__builtin_shufflevector(n.halves, n.halves, 0, 2, 0, 2)));
+}
+inline L2 odd_sign(N2 n) { return from_halves(n.halves) << 63; }
+
+// ---- Between floats and integers of 32 bits, by the rounding in force. --------------------------------------
+
+inline F4 to_float(I4 x) { return __builtin_convertvector(x, F4); }
+inline I4 hardware_int(F4 x) { return reinterpret_cast<I4>(_mm_cvtps_epi32(x)); }
+
 // ---- Between four float lanes and two double units. --------------------------------------------------------
 
 inline D4 widen(F4 x) { return {_mm_cvtps_pd(x), _mm_cvtps_pd(_mm_movehl_ps(x, x))}; }
