@@ -1,6 +1,6 @@
 // What the table generators share: exact values in MPFR, printed as rows of C++ initialisers.
 //
-// A generator prints one table to standard output. The committed table in data/tables/ must equal that output; the
+// A generator prints one table to standard output. The committed table in its group's tables/ folder must equal that output; the
 // test suite compares them.
 #pragma once
 
