@@ -57,8 +57,9 @@ const CbrtfNativeData cbrtf_native_data = {
     .p = 0x3eaaaaab,  // 0.33333334
     .values =
         {
-#include "kernels/quotients/tables/cbrtf_heads.inc"
 #include "kernels/quotients/tables/cbrtf_reciprocals.inc"
+// The reciprocals stand in front, whatever the order of names.
+#include "kernels/quotients/tables/cbrtf_heads.inc"
         },
 };
 const CbrtfNativeData rcbrtf_native_data = {
@@ -67,6 +68,7 @@ const CbrtfNativeData rcbrtf_native_data = {
     .values =
         {
 #include "kernels/quotients/tables/cbrtf_reciprocals.inc"
+// The reciprocals stand in front, whatever the order of names.
 #include "kernels/quotients/tables/rcbrtf_heads.inc"
         },
 };
