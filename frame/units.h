@@ -109,6 +109,23 @@ inline D2 add_in_order(D2 x, D2 y) {
     return x;
 }
 
+inline float multiply_in_order(float x, float y) {
+    asm("mulss %1, %0" : "+x"(x) : "x"(y));
+    return x;
+}
+inline double multiply_in_order(double x, double y) {
+    asm("mulsd %1, %0" : "+x"(x) : "x"(y));
+    return x;
+}
+inline float add_in_order(float x, float y) {
+    asm("addss %1, %0" : "+x"(x) : "x"(y));
+    return x;
+}
+inline double add_in_order(double x, double y) {
+    asm("addsd %1, %0" : "+x"(x) : "x"(y));
+    return x;
+}
+
 inline D2 hardware_sqrt(D2 x) { return _mm_sqrt_pd(x); }
 
 // Each signed 16-bit word between two bounds: the integer minimum and maximum that the unit has. For lanes whose value
@@ -156,6 +173,11 @@ inline L2 odd_sign(N2 n) { return from_halves(n.halves) << 63; }
 
 inline F4 to_float(I4 x) { return __builtin_convertvector(x, F4); }
 inline I4 hardware_int(F4 x) { return reinterpret_cast<I4>(_mm_cvtps_epi32(x)); }
+
+// The products of the low halves, 64 bits each.
+inline UL2 multiply_low_halves(UL2 x, UL2 y) {
+    return unit_cast<UL2>(_mm_mul_epu32(unit_cast<__m128i>(x), unit_cast<__m128i>(y)));
+}
 
 // ---- Between four float lanes and two double units. --------------------------------------------------------
 

@@ -1,0 +1,7 @@
+// -1/c of the centres c = 1 + (2 i + 1)/64, rounded to float.
+#include "tools/tables/cube_roots.h"
+
+int main() {
+    tables::header("-1/c of the centres c = 1 + (2 i + 1)/64, rounded to float.", "cbrtf_reciprocals");
+    for (int i = 0; i < 32; ++i) tables::row(static_cast<double>((-1.0 / tables::centre(i)).as_float()), i);
+}
