@@ -109,6 +109,23 @@ inline D2 add_in_order(D2 x, D2 y) {
     return x;
 }
 
+inline float multiply_in_order(float x, float y) {
+    asm("mulss %1, %0" : "+x"(x) : "x"(y));
+    return x;
+}
+inline double multiply_in_order(double x, double y) {
+    asm("mulsd %1, %0" : "+x"(x) : "x"(y));
+    return x;
+}
+inline float add_in_order(float x, float y) {
+    asm("addss %1, %0" : "+x"(x) : "x"(y));
+    return x;
+}
+inline double add_in_order(double x, double y) {
+    asm("addsd %1, %0" : "+x"(x) : "x"(y));
+    return x;
+}
+
 inline D2 hardware_sqrt(D2 x) { return _mm_sqrt_pd(x); }
 
 // ---- 64-bit lanes seen as pairs of 32-bit halves. ----------------------------------------------------------
@@ -135,6 +152,11 @@ inline L2 high_below(L2 x, I4 bound) { return spread_high(halves(x) < bound); }
 // A non-negative integer below 2^52 in each 64-bit lane, as a double: as the low mantissa bits of 2^52, which is then
 // taken off. `two_to_52` is that number's pattern.
 inline D2 small_integer_to_double(L2 x, D2 two_to_52) { return as_double(x | bits(two_to_52)) - two_to_52; }
+
+// The products of the low halves, 64 bits each.
+inline UL2 multiply_low_halves(UL2 x, UL2 y) {
+    return unit_cast<UL2>(_mm_mul_epu32(unit_cast<__m128i>(x), unit_cast<__m128i>(y)));
+}
 
 // ---- Between four float lanes and two double units. --------------------------------------------------------
 
