@@ -67,8 +67,8 @@ inline std::vector<Real> relative_minimax(const Function& f, int lowest, int deg
         std::vector<std::vector<Real>> rows;
         for (size_t i = 0; i <= terms; ++i) {
             std::vector<Real> row;
-            for (size_t k = 0; k < terms; ++k)
-                row.push_back(power(points[i], lowest + static_cast<long>(k)) / f(points[i]));
+            Real value = f(points[i]);
+            for (size_t k = 0; k < terms; ++k) row.push_back(power(points[i], lowest + static_cast<long>(k)) / value);
             row.push_back(i % 2 == 0 ? 1.0 : -1.0);
             row.push_back(1.0);
             rows.push_back(row);

@@ -69,11 +69,14 @@ TABLES_UNARY(rsqrt, mpfr_rec_sqrt)
 TABLES_UNARY(log, mpfr_log)
 TABLES_UNARY(log2, mpfr_log2)
 TABLES_UNARY(log10, mpfr_log10)
+TABLES_UNARY(exp, mpfr_exp)
 TABLES_UNARY(exp2, mpfr_exp2)
 TABLES_UNARY(sin, mpfr_sin)
 TABLES_UNARY(cos, mpfr_cos)
 TABLES_UNARY(atan, mpfr_atan)
 TABLES_UNARY(tanh, mpfr_tanh)
+TABLES_UNARY(erf, mpfr_erf)
+TABLES_UNARY(erfc, mpfr_erfc)
 #undef TABLES_UNARY
 
 inline Real pi() {
