@@ -9,6 +9,10 @@
 //
 // Rare: infinities and NaN, and what is not inside the domain. The native class returns what the arithmetic makes of
 // them.
+//
+// Errors are told as measured on one processor, operands tried at random, and for the worst estimates of relative error
+// 1.5 * 2^-12, simulated: a reciprocal that is not the nearest integer makes the logarithm's terms cancel near 1, and
+// the shorter series of the acosh families leave more of a coarser root.
 #include "frame/lane_frame.h"
 #include "kernels/hyperbolic/area_log.h"
 #include "kernels/hyperbolic/area_rare.h"
@@ -51,6 +55,7 @@ D2 asinh_of(D2 x, D2 a, const Data& data) {
     return xor_bits(area_log(argument, k, data.log), bits(x) & data.sign);
 }
 
+// Error 2.6 ulp; 6.7 with the worst estimates.
 struct asinh {
     static Lanes<D2> main(D2 x) {
         const auto& data = in_memory(asinh_data);
@@ -60,6 +65,7 @@ struct asinh {
     static constexpr auto rare = asinh_rare_lane<double>;
 };
 
+// Error 2.7e5 ulp; 4.93e6 with the worst estimates.
 struct asinh_native {
     static D2 main(D2 x) {
         const auto& data = in_memory(asinh_native_data);
@@ -80,6 +86,7 @@ D2 acosh_of(D2 x, const Data& data) {
     return area_log(argument, k, data.log);
 }
 
+// Error 3.9 ulp; 33.5 with the worst estimates.
 struct acosh {
     static constexpr int fill = 2;
     static Lanes<D2> main(D2 x) {
@@ -89,6 +96,7 @@ struct acosh {
     static constexpr auto rare = acosh_rare_lane<double>;
 };
 
+// Error 2.4e6 ulp; 1.38e7 with the worst estimates.
 struct acosh_native {
     static constexpr int fill = 2;
     static D2 main(D2 x) { return acosh_of(x, in_memory(acosh_native_data)); }
@@ -119,6 +127,7 @@ D2 atanh_of(D2 x, D2 a, const Data& data) {
     return xor_bits(data.half, bits(x) & data.sign) * log;
 }
 
+// Error 2.6 ulp; 6.2 with the worst estimates.
 struct atanh {
     static Lanes<D2> main(D2 x) {
         const auto& data = in_memory(atanh_data);
@@ -128,6 +137,7 @@ struct atanh {
     static constexpr auto rare = atanh_rare_lane<double>;
 };
 
+// Error 2.7e5 ulp; 4.93e6 with the worst estimates.
 struct atanh_native {
     static D2 main(D2 x) {
         const auto& data = in_memory(atanh_native_data);

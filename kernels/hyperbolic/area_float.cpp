@@ -61,6 +61,7 @@ F4 asinh_of(F4 x, F4 a, const Data& data) {
     return xor_bits(area_log(argument, k, data.log), bits(x) & data.sign);
 }
 
+// Error 2.15 ulp at most, at 0x1.ff9f5ep-4, operands tried at random.
 struct asinhf {
     static Lanes<F4> main(F4 x) {
         const auto& data = in_memory(asinhf_data);
@@ -70,6 +71,7 @@ struct asinhf {
     static constexpr auto rare = asinh_rare_lane<float>;
 };
 
+// Error 1,468 ulp, at 0x1.cd4274p-3.
 struct asinhf_native {
     static F4 main(F4 x) {
         const auto& data = in_memory(asinhf_native_data);
@@ -90,6 +92,7 @@ F4 acosh_of(F4 x, const Data& data) {
     return area_log(argument, k, data.log);
 }
 
+// Error 3.20 ulp at most, at 0x1.01c752p+0: all floats from 1 to 1.125 tried, others at random.
 struct acoshf {
     static constexpr int fill = 2;
     static Lanes<F4> main(F4 x) {
@@ -99,6 +102,7 @@ struct acoshf {
     static constexpr auto rare = acosh_rare_lane<float>;
 };
 
+// Error 2,300 ulp, at 0x1.06ff84p+0; 2,520 with the worst estimates allowed.
 struct acoshf_native {
     static constexpr int fill = 2;
     static F4 main(F4 x) { return acosh_of(x, in_memory(acoshf_native_data)); }
@@ -128,6 +132,7 @@ F4 atanh_of(F4 x, F4 a, const Data& data) {
     return xor_bits(data.half, bits(x) & data.sign) * log;
 }
 
+// Error 2.09 ulp at most, at -0x1.f85d44p-5, operands tried at random.
 struct atanhf {
     static Lanes<F4> main(F4 x) {
         const auto& data = in_memory(atanhf_data);
@@ -137,6 +142,7 @@ struct atanhf {
     static constexpr auto rare = atanh_rare_lane<float>;
 };
 
+// Error 1,468 ulp, at -0x1.c76b16p-4.
 struct atanhf_native {
     static F4 main(F4 x) {
         const auto& data = in_memory(atanhf_native_data);

@@ -50,6 +50,7 @@ inline D2 sinh_by_steps(D2 x, const SinhData& data) {
     return or_bits(y, bits(x) & data.sign);
 }
 
+// Error 2.13 ulp at most, at -0x1.fa1f40ef7bba8p-9, operands tried at random; rare lanes 0.51.
 struct sinh {
     static Lanes<D2> main(D2 x) {
         const auto& data = in_memory(sinh_data);
@@ -78,6 +79,7 @@ inline D2 cosh_by_steps(D2 a, const CoshData& data) {
     return (cr * c + sr * s) + c;
 }
 
+// Error 1.48 ulp at most, at -0x1.edde2980a24e3p+0, operands tried at random; rare lanes 0.52.
 struct cosh {
     static Lanes<D2> main(D2 x) {
         const auto& data = in_memory(cosh_data);

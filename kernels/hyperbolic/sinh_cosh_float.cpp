@@ -40,7 +40,7 @@ inline AtRemainder remainder(F4 r, const SinhCoshfData& data) {
 Status sinhf_rare(const float* x, float* result) { return sinh_complete(sinhf_rare_data, x, result); }
 Status coshf_rare(const float* x, float* result) { return cosh_complete(coshf_rare_data, x, result); }
 
-// Error 1.95 ulp at most, operands tried at random; rare lanes 0.5.
+// Error 2.00 ulp at most, at -0x1.8fd4d6p-2, operands tried at random; rare lanes 0.5.
 struct sinhf {
     static Lanes<F4> main(F4 x) {
         const auto& data = in_memory(sinhf_data);
@@ -53,7 +53,7 @@ struct sinhf {
     static constexpr auto rare = sinhf_rare;
 };
 
-// Error 1.85 ulp, likewise; rare lanes 0.5.
+// Error 1.84 ulp, at -0x1.004336p+3, likewise; rare lanes 0.5.
 struct coshf {
     static Lanes<F4> main(F4 x) {
         const auto& data = in_memory(coshf_data);
@@ -68,6 +68,7 @@ struct coshf {
 
 // ---- Native: two terms for each of the polynomials. --------------------------------------------------------
 
+// Error 1,079 ulp, near zero, where 0.999935687 stands for 1.
 struct sinhf_native {
     static F4 main(F4 x) {
         const auto& data = in_memory(sinhf_native_data);
@@ -79,6 +80,7 @@ struct sinhf_native {
     }
 };
 
+// Error 380 ulp, at 0x1.205ae8p+2.
 struct coshf_native {
     static F4 main(F4 x) {
         const auto& data = in_memory(coshf_native_data);

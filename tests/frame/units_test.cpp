@@ -35,6 +35,14 @@ TEST(Units, MinimumAndMaximumGiveTheSecondOperandOnNanAndOnEqualZeros) {
     EXPECT_EQ((Lanes32{0x8000000000000000, 0x3ff0000000000000}), patterns(hardware_min(D2{0.0, 2.0}, D2{-0.0, 1.0})));
 }
 
+TEST(Units, WordsAreClampedOneByOneAndSigned) {
+    EXPECT_EQ((Lanes32{0, 0x04280000, 0x04280000, 0x00080000}),
+              patterns(clamp_words(I4{-0x80000, 0x04280000, 0x7ff80000, 0x00080000}, I4{},
+                                   I4{0x04280000, 0x04280000, 0x04280000, 0x04280000})));
+    EXPECT_EQ((Lanes32{0, 0x0076000000000000}), patterns(clamp_words(L2{-0x0002000000000000, 0x0078000000000000}, L2{},
+                                                                     L2{0x0076000000000000, 0x0076000000000000})));
+}
+
 TEST(Units, OperandsInOrderKeepTheFirstNan) {
     EXPECT_EQ(0x7fc00001u, patterns(multiply_in_order(first_nan, second_nan))[0]);
     EXPECT_EQ(0x7fc00002u, patterns(multiply_in_order(second_nan, first_nan))[0]);
