@@ -89,17 +89,6 @@ inline Columns gather_rows(const float* table, LaneOffsets at) {
     return {{row0, row1, row2, row3}};
 }
 
-// Rows of two floats: half a unit for each lane, and the two columns by shuffling.
-struct FloatColumnPair {
-    F4 first, second;
-};
-inline FloatColumnPair gather_pair(const float* columns, LaneOffsets at) {
-    auto row = [&](int lane) { return reinterpret_cast<const __m64*>(&load_at(columns, at.lane[lane])); };
-    __m128 low = _mm_loadh_pi(_mm_castsi128_ps(_mm_loadl_epi64(reinterpret_cast<const __m128i*>(row(0)))), row(1));
-    __m128 high = _mm_loadh_pi(_mm_castsi128_ps(_mm_loadl_epi64(reinterpret_cast<const __m128i*>(row(2)))), row(3));
-    return {_mm_shuffle_ps(low, high, _MM_SHUFFLE(2, 0, 2, 0)), _mm_shuffle_ps(low, high, _MM_SHUFFLE(3, 1, 3, 1))};
-}
-
 // Rows of doubles, aligned to 16 bytes, two columns side by side: one load for each lane, and unpacking.
 struct ColumnPair {
     D2 first, second;

@@ -62,16 +62,6 @@ inline Float or_sign_of(Float x, Float y) {
     return from_pattern(pattern(x) | (pattern(y) & Fields<Float>::sign));
 }
 
-// x + y at run time, with x as the instruction's first operand, whose payload stays where both are NaN.
-inline float add_in_order(float x, float y) {
-    asm volatile("addss %1, %0" : "+x"(x) : "x"(y));
-    return x;
-}
-inline double add_in_order(double x, double y) {
-    asm volatile("addsd %1, %0" : "+x"(x) : "x"(y));
-    return x;
-}
-
 // ---- Exponents. --------------------------------------------------------------------------------------------
 
 template <class Float>

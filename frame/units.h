@@ -109,20 +109,21 @@ inline D2 add_in_order(D2 x, D2 y) {
     return x;
 }
 
+// The same for scalars, at run time.
 inline float multiply_in_order(float x, float y) {
-    asm("mulss %1, %0" : "+x"(x) : "x"(y));
+    asm volatile("mulss %1, %0" : "+x"(x) : "x"(y));
     return x;
 }
 inline double multiply_in_order(double x, double y) {
-    asm("mulsd %1, %0" : "+x"(x) : "x"(y));
+    asm volatile("mulsd %1, %0" : "+x"(x) : "x"(y));
     return x;
 }
 inline float add_in_order(float x, float y) {
-    asm("addss %1, %0" : "+x"(x) : "x"(y));
+    asm volatile("addss %1, %0" : "+x"(x) : "x"(y));
     return x;
 }
 inline double add_in_order(double x, double y) {
-    asm("addsd %1, %0" : "+x"(x) : "x"(y));
+    asm volatile("addsd %1, %0" : "+x"(x) : "x"(y));
     return x;
 }
 

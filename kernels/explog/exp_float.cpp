@@ -46,7 +46,7 @@ struct expf {
         F4 t = x * data.log2_e + data.shifter;
         F4 k = t - data.shifter;
         F4 r = (x - k * data.ln2_high) - k * data.ln2_low;  // the first product is exact: 15 bits times 8
-        F4 p = horner(r, data.c5, data.c4, data.c3, data.c2, data.c1, data.c0);
+        F4 p = horner(r, data.p);
         return {times_power_of_two(p, t), not_ordinary(x, data)};
     }
     static constexpr auto rare = expf_rare;
@@ -59,7 +59,7 @@ struct exp2f {
         F4 t = x + data.shifter;
         F4 k = t - data.shifter;
         F4 r = x - k;
-        F4 p = horner(r, data.c6, data.c5, data.c4, data.c3, data.c2, data.c1, data.c0);
+        F4 p = horner(r, data.p);
         return {times_power_of_two(p, t), not_ordinary(x, data)};
     }
     static constexpr auto rare = exp2f_rare;
@@ -75,7 +75,7 @@ struct exp10f {
         F4 power = gather_indexed(data.powers, offsets_of(i));
         F4 k = t - data.shifter;
         F4 r = (x - k * data.step_high) - k * data.step_low;
-        F4 p = r * data.c1 + data.c0;
+        F4 p = horner(r, data.p);
         F4 y = p * power + power;
         I4 n = (bits(t) ^ i) << 14;  // k/512, rounded down, in the exponent field
         return {as_float(bits(y) + n), not_ordinary(x, data)};
@@ -92,7 +92,7 @@ struct expf_native {
         F4 t = x * data.log2_e + data.shifter;
         F4 k = t - data.shifter;
         F4 r = x - k * data.ln2;
-        F4 p = horner(r, data.c3, data.c2, data.c1, data.c0);
+        F4 p = horner(r, data.p);
         return times_power_of_two(p, t);
     }
 };
@@ -102,7 +102,7 @@ F4 exp2f_short(F4 x, const Data& data) {
     F4 t = x + data.shifter;
     F4 k = t - data.shifter;
     F4 r = x - k;
-    F4 p = horner(r, data.c3, data.c2, data.c1, data.c0);
+    F4 p = horner(r, data.p);
     return times_power_of_two(p, t);
 }
 

@@ -121,7 +121,7 @@ inline Status in_range(const Exp2RareData& data, double x, double* result) {
 template <class Data, class Float>
 inline Status exponential_rare(const Data& data, Float x, Float* result) {
     if (is_infinite_or_nan(x)) {
-        *result = x == -__builtin_inff() ? 0 : x * x;
+        *result = is_negative_infinity(x) ? 0 : x * x;
         return RARE_OK;
     }
     if (!(x <= data.last_finite)) return overflow_result(result);

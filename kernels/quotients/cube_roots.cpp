@@ -45,7 +45,7 @@ inline F4 signed_power(F4 x, I4 n, const CentrefData& data) { return as_float((n
 
 inline F4 reconstruct(const Positionf& at, F4 scale, const CbrtfData& data) {
     F4 r = at.minus_distance * gather_indexed(data.minus_reciprocal, offsets_of(at.centre));
-    auto [head, tail] = gather_pair(&data.values[0].head, offsets_of((at.octave << 8) + (at.centre << 3)));
+    auto [head, tail] = gather_pair(data.values, offsets_of((at.octave << 8) + (at.centre << 3)));
     F4 t = head * scale;
     F4 t_tail = tail * scale;
     F4 u = r * t;
