@@ -37,16 +37,18 @@ inline LaneOffsets offsets_through_memory(I4 lanes) {
     __builtin_memcpy(&offsets, slots, sizeof offsets);
     return offsets;
 }
+// Of 64-bit lanes: the low half of lane 0, which comes out more cheaply whole, and the low word of lane 1.
 inline LaneOffsets2 offsets_of(L2 lanes) {
     __m128i unit = reinterpret_cast<__m128i>(lanes);
-    return {{static_cast<uint32_t>(_mm_extract_epi16(unit, 0)), static_cast<uint32_t>(_mm_extract_epi16(unit, 4))}};
+    return {{static_cast<uint32_t>(_mm_cvtsi128_si32(unit)), static_cast<uint32_t>(_mm_extract_epi16(unit, 4))}};
 }
 
-// For a table whose first row has another offset or index than 0: the address of the load absorbs the subtraction.
-inline LaneOffsets operator-(LaneOffsets at, uint32_t first) {
-    return {{at.lane[0] - first, at.lane[1] - first, at.lane[2] - first, at.lane[3] - first}};
+// Where row 0 of a table would stand whose first row is that of another index: the address of the load absorbs the
+// difference. (Subtracted from the offsets, it would tempt the compiler to shuffle them back into a unit.)
+template <class Row>
+inline const Row* counted_from(uint32_t first, const Row* rows) {
+    return reinterpret_cast<const Row*>(reinterpret_cast<uintptr_t>(rows) - first * sizeof(Row));
 }
-inline LaneOffsets2 operator-(LaneOffsets2 at, uint32_t first) { return {{at.lane[0] - first, at.lane[1] - first}}; }
 
 template <class Lane>
 inline const Lane& load_at(const Lane* column, uint32_t offset) {

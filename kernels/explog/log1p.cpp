@@ -63,12 +63,11 @@ inline Value scale_of(Value s, const Data& data) {
 struct log1pf {
     static Lanes<F4> main(F4 x) {
         const auto& data = in_memory(log1pf_data);
-        constexpr unsigned row_bytes = sizeof data.rows[0];
         auto [s, e] = one_plus(x, data);
         F4 y = as_float((bits(s) & data.mantissa) | data.exponent);
         F4 shifted = reciprocal_estimate(y) + data.shifter;
         F4 c = shifted - data.shifter;
-        auto [row_high, row_low] = gather_pair(data.rows, offsets_of(bits(shifted) << 3) - 128 * row_bytes);
+        auto [row_high, row_low] = gather_pair(counted_from(128, data.rows), offsets_of(bits(shifted) << 3));
         F4 scaled_c = scale_of(s, data) * c;
         F4 a = s * scaled_c - data.one;
         F4 b = e * scaled_c;
@@ -89,10 +88,9 @@ struct log1pf {
 struct log1p {
     static Lanes<D2> main(D2 x) {
         const auto& data = in_memory(log1p_data);
-        constexpr unsigned row_bytes = sizeof data.rows[0];
         auto [s, e] = one_plus(x, data);
         Reciprocal about = short_reciprocal(s, data.reciprocal);
-        auto [row_high, row_low] = gather_pair(data.rows, offsets_of(about.c_in_low_bits << 4) - 512 * row_bytes);
+        auto [row_high, row_low] = gather_pair(counted_from(512, data.rows), offsets_of(about.c_in_low_half << 4));
         D2 a = reduced_argument(about, data.reciprocal);
         D2 b = e * (scale_of(s, data) * about.c);
         D2 r = a + b;

@@ -33,7 +33,7 @@ inline Split split(F4 x, const MantissaSplitData& data) {
 
 struct Reciprocal {
     D2 y, c;
-    L2 c_in_low_bits;
+    L2 c_in_low_half;
 };
 inline Reciprocal short_reciprocal(D2 x, const ReciprocalData& data) {
     D2 y = as_double((bits(x) & data.mantissa) | data.exponent);
@@ -42,7 +42,7 @@ inline Reciprocal short_reciprocal(D2 x, const ReciprocalData& data) {
 }
 // What stands for c in a table that begins with c = 512.
 inline D2 gather_for(Reciprocal about, const double* table) {
-    return gather_indexed(table, offsets_of(about.c_in_low_bits) - 512);
+    return gather_indexed(counted_from(512, table), offsets_of(about.c_in_low_half));
 }
 
 // The tables of the plain logarithms hold log(512/c), and log(1024/c) above c = 724, so that they are small for x near
