@@ -9,8 +9,8 @@
 // Branch-free, all lanes at once; the only gather is one row of the table for each lane.
 #pragma once
 
-#include "kernels/trig/reduction_data.h"
 #include "frame/gather.h"
+#include "kernels/trig/reduction_data.h"
 
 namespace zorv {
 
