@@ -41,6 +41,16 @@ D2 short_cosine(D2 x, const Data& data) {
     return xor_bits(sine_polynomial(y, y * y, data.c), odd_sign(t));
 }
 
+// |x| - (N +- 1/2) pi by the first two parts of pi. On the accurate class's short path that is g, which is |x| - N pi
+// by two parts, -+ half of the two: where N is not 0, every step is exact, all being multiples of 2^-52 below 2; where
+// N is 0, both ways round alike, half of the second part being even on the grid of the result.
+inline D2 half_step_off(D2, D2 g, D2, L2 side, const AccurateSinedData& data) {
+    return g - or_bits(data.half_of_two_parts, side);
+}
+inline D2 half_step_off(D2 a, D2, D2 m, L2, const NativeSinedData& data) {
+    return subtract_parts(a, m, data.pi, 0, 2);  // N may be too large for exact products
+}
+
 //   |x| = N pi + y;  |x| = (N +- 1/2) pi + z, on the side of y's sign, which two parts of pi decide
 template <class Data>
 Both<D2, D2> short_sine_and_cosine(D2 x, const Data& data) {
@@ -49,12 +59,17 @@ Both<D2, D2> short_sine_and_cosine(D2 x, const Data& data) {
     D2 n = t - data.shifter;
     D2 g = subtract_parts(a, n, data.pi, 0, 2);
     L2 side = bits(g) & data.sign;
-    D2 m = n + or_bits(data.half, side);
-    D2 z = subtract_parts(a, m, data.pi);
-    D2 y = subtract_parts(g, n, data.pi, 2);
-    D2 cosine = xor_bits(sine_polynomial(z, z * z, data.c), side ^ odd_sign(t) ^ data.sign);
-    D2 sine = xor_bits(sine_polynomial(y, y * y, data.c), odd_sign(t) ^ (bits(x) & data.sign));
-    return {sine, cosine};
+
+    const Data& for_cosine = in_memory(data);  // the constants anew, where keeping them would spill
+    D2 m = n + or_bits(for_cosine.half, side);
+    D2 z = subtract_parts(half_step_off(a, g, m, side, for_cosine), m, for_cosine.pi, 2);
+    D2 cosine = sine_polynomial(z, z * z, for_cosine.c);
+    cosine = xor_bits(cosine, side ^ odd_sign(t) ^ for_cosine.sign);
+
+    const Data& for_sine = in_memory(data);
+    D2 y = subtract_parts(g, n, for_sine.pi, 2);
+    D2 sine = sine_polynomial(y, y * y, for_sine.c);
+    return {xor_bits(sine, odd_sign(t) ^ (bits(x) & for_sine.sign)), cosine};
 }
 
 // ---- Long path: functions of their own, one for all widths. ------------------------------------------------
@@ -97,8 +112,8 @@ struct LongSineAndCosine {
 // ---- The families. -----------------------------------------------------------------------------------------
 
 struct sin {
-    static D2 main(D2 x) { return short_sine(x, in_memory(sin_data).short_path); }
-    static L2 beyond(D2 x) { return and_bits(x, sin_data.short_path.magnitude) > sin_data.limit; }
+    static D2 main(D2 x) { return short_sine(x, in_memory(sin_data)); }
+    static L2 beyond(D2 x) { return and_bits(x, sin_data.magnitude) > sin_data.limit; }
     using LongPath = Repaired<LongSine>;
 };
 struct sin_native {
@@ -106,11 +121,9 @@ struct sin_native {
 };
 
 struct cos {
-    static D2 main(D2 x) { return short_cosine(x, in_memory(cos_data).short_path); }
+    static D2 main(D2 x) { return short_cosine(x, in_memory(cos_data)); }
     // Of the sum that the quotient is taken of: the path changes at -2^23 - pi/2 and 2^23 - pi/2.
-    static L2 beyond(D2 x) {
-        return and_bits(x + cos_data.short_path.half_pi, cos_data.short_path.magnitude) > cos_data.limit;
-    }
+    static L2 beyond(D2 x) { return and_bits(x + cos_data.half_pi, cos_data.magnitude) > cos_data.limit; }
     using LongPath = Repaired<LongCosine>;
 };
 struct cos_native {
@@ -119,8 +132,8 @@ struct cos_native {
 
 template <const auto& record>
 struct SineAndCosine {
-    static Both<D2, D2> main(D2 x) { return short_sine_and_cosine(x, in_memory(record).short_path); }
-    static L2 beyond(D2 x) { return and_bits(x, record.short_path.magnitude) > record.limit; }
+    static Both<D2, D2> main(D2 x) { return short_sine_and_cosine(x, in_memory(record)); }
+    static L2 beyond(D2 x) { return and_bits(x, record.magnitude) > record.limit; }
     using LongPath = Repaired<LongSineAndCosine>;
 };
 template <const auto& record>

@@ -78,11 +78,14 @@ static constexpr NativeSinedData native = {
         },
 };
 
-// 2^24 for the sine by itself, 2^23 where there is a cosine.
-const AccurateSinedData sin_data = {.short_path = accurate_sine, .limit = 0x4170000000000000};
-const AccurateSinedData cos_data = {.short_path = accurate_cosine, .limit = 0x4160000000000000};
-const AccurateSinedData sincos_data = {.short_path = accurate_cosine, .limit = 0x4160000000000000};
-const AccurateSinedData sincosreg_data = {.short_path = accurate_cosine, .limit = 0x4160000000000000};
+// (3.1415925025939941 + 1.5099578831723193e-07) / 2, exact.
+static constexpr Slot<double> half_of_two_parts = 0x3ff921fb54442d00;
+
+// The limit is 2^24 for the sine by itself, 2^23 where there is a cosine.
+const AccurateSinedData sin_data = {accurate_sine, 0x4170000000000000, half_of_two_parts};
+const AccurateSinedData cos_data = {accurate_cosine, 0x4160000000000000, half_of_two_parts};
+const AccurateSinedData sincos_data = {accurate_cosine, 0x4160000000000000, half_of_two_parts};
+const AccurateSinedData sincosreg_data = {accurate_cosine, 0x4160000000000000, half_of_two_parts};
 const NativeSinedData sin_native_data = native;
 const NativeSinedData cos_native_data = native;
 const NativeSinedData sincos_native_data = native;

@@ -13,11 +13,11 @@ struct ShortSinedData {
     Slot<double> inverse_pi, shifter, half, half_pi;
     Slot<double> pi[parts], c[coefficients];
 };
-struct AccurateSinedData {
-    ShortSinedData<4, 7> short_path;
-    Slot<double> limit;  // the largest argument of the short path
-};
 using NativeSinedData = ShortSinedData<3, 4>;
+struct AccurateSinedData : ShortSinedData<4, 7> {
+    Slot<double> limit;  // the largest argument of the short path
+    Slot<double> half_of_two_parts;
+};
 
 HIDDEN extern const AccurateSinedData sin_data;
 HIDDEN extern const AccurateSinedData cos_data;

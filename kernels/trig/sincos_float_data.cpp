@@ -60,10 +60,10 @@ const NativeSinefData sincosregf_native_data = native;
 
 const TurnSinefData turn_sinef_data = {
     .sign = 0x80000000,  //
-    .s1 = 0xbe2aaaab,        // -0.166666672
-    .s2 = 0x3c08885c,        // 0.00833329186
-    .c1 = 0xbf000000,        // -0.5
-    .c2 = 0x3d2aaa7c,        // 0.0416664928
+    .s1 = 0xbe2aaaab,    // -0.166666672
+    .s2 = 0x3c08885c,    // 0.00833329186
+    .c1 = 0xbf000000,    // -0.5
+    .c2 = 0x3d2aaa7c,    // 0.0416664928
 };
 
 alignas(64) const float turn_table_f[320 * turn_row] = {

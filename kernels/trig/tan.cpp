@@ -40,9 +40,8 @@ Ratio<Unit> short_tangent(Unit x, const Data& data) {
     Unit w = y * y;
     Unit numerator = horner(w, data.numerator) * y;
     Unit denominator = horner(w, data.denominator);
-    auto odd = odd_mask(t);
-    return {select(odd, denominator, numerator), select(odd, numerator, denominator),
-            odd_sign(t) ^ (bits(x) & data.sign)};
+    auto swap = (bits(numerator) ^ bits(denominator)) & odd_mask(t);
+    return {xor_bits(numerator, swap), xor_bits(denominator, swap), odd_sign(t) ^ (bits(x) & data.sign)};
 }
 
 // ---- Long path: functions of their own, one for all widths. ------------------------------------------------

@@ -18,7 +18,9 @@ struct TangentExpansion {
     Unit distance;  // to the pole: zero at the pole and nowhere else
 };
 
-inline LaneOffsets tangent_row_of(I4 j) { return offsets_through_memory((j & tangent_expansionf_data.index_mask) << 6); }
+inline LaneOffsets tangent_row_of(I4 j) {
+    return offsets_through_memory((j & tangent_expansionf_data.index_mask) << 6);
+}
 inline LaneOffsets2 tangent_row_of(L2 j) { return offsets_of((j & tangent_expansiond_data.index_mask) << 7); }
 
 // slope_tail R + c2 R^2 + c3 R^3 + c4 R^4

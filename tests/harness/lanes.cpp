@@ -102,4 +102,28 @@ void expect_rows(const std::string& family_name, const std::vector<Row>& rows, c
         }
 }
 
+void expect_beside(const std::string& family_name, const std::vector<BesideRow>& rows,
+                   const std::vector<uint64_t>& calm, const std::vector<uint64_t>& deciding) {
+    const grid::Family& f = family(family_name);
+    const uint64_t one = f.is_single ? pattern(1.0f) : pattern(1.0);
+    auto try_neighbour = [&](int width, size_t lane, size_t other, uint64_t neighbour, const BesideRow& row,
+                             uint64_t expected) {
+        Patterns x(static_cast<size_t>(grid::room(width)), one);
+        x[lane] = row.operand;
+        x[other] = neighbour;
+        EXPECT_EQ(expected, call(f, width, {x})[0][lane])
+            << f.export_name(width) << " lane " << lane << " of" << hex({row.operand}) << " beside" << hex({neighbour})
+            << " in lane " << other;
+    };
+    for (int width : {2, 3, 4, 8, 16})
+        for (size_t lane = 0; lane < static_cast<size_t>(width); ++lane)
+            for (size_t other = 0; other < static_cast<size_t>(width); ++other)
+                for (const BesideRow& row : rows) {
+                    if (lane == other) continue;
+                    for (uint64_t neighbour : calm) try_neighbour(width, lane, other, neighbour, row, row.beside_calm);
+                    for (uint64_t neighbour : deciding)
+                        try_neighbour(width, lane, other, neighbour, row, row.beside_deciding);
+                }
+}
+
 }  // namespace harness

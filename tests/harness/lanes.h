@@ -48,4 +48,12 @@ struct Row {
 void expect_rows(const std::string& family_name, const std::vector<Row>& rows,
                  const std::vector<int>& widths = {1, 2, 3, 4, 8, 16});
 
+// An operand and its first result: beside lanes that leave the choice of the path open, and beside those that make it.
+struct BesideRow {
+    uint64_t operand, beside_calm, beside_deciding;
+};
+// Every row in every lane, at all widths above 1, with one neighbour in every other lane and ones elsewhere.
+void expect_beside(const std::string& family_name, const std::vector<BesideRow>& rows,
+                   const std::vector<uint64_t>& calm, const std::vector<uint64_t>& deciding);
+
 }  // namespace harness

@@ -68,36 +68,16 @@ TEST(Trig, LongPathOfFloats) {
     expect_sines_and_cosines("_native", native);
 }
 
-struct Neighboured {
-    uint64_t x, beside_nan, beside_huge;  // first results
-};
-// Every row in every lane, with one neighbour in every other lane.
-void expect_beside(const std::string& name, const std::vector<Neighboured>& rows) {
-    const grid::Family& family = harness::family(name);
-    const uint64_t neighbours[] = {0x7fc00000, 0x461c4000, 0x461c4001, 0xc61c4001, 0x7f800000, 0xff800000};
-    for (int width : {2, 3, 4, 8, 16})
-        for (int lane = 0; lane < width; ++lane)
-            for (int other = 0; other < width; ++other)
-                for (uint64_t neighbour : neighbours)
-                    for (const Neighboured& row : rows) {
-                        if (lane == other) continue;
-                        harness::Patterns x(static_cast<size_t>(grid::room(width)), 0x3f800000);
-                        x[static_cast<size_t>(lane)] = row.x;
-                        x[static_cast<size_t>(other)] = neighbour;
-                        bool huge = neighbour != 0x7fc00000 && neighbour != 0x461c4000;
-                        EXPECT_EQ(huge ? row.beside_huge : row.beside_nan,
-                                  harness::call(family, width, {x})[0][static_cast<size_t>(lane)])
-                            << family.export_name(width) << " lane " << lane << std::hex << " of " << row.x
-                            << " beside " << neighbour << " in lane " << std::dec << other;
-                    }
+void expect_beside(const std::string& name, const std::vector<harness::BesideRow>& rows) {
+    harness::expect_beside(name, rows, {0x7fc00000, 0x461c4000}, {0x461c4001, 0xc61c4001, 0x7f800000, 0xff800000});
 }
 
 // One lane strictly beyond the limit, or infinite, sends all lanes to the long path; a NaN or the limit does not.
 TEST(Trig, ANeighbourBeyondTheLimitChoosesThePath) {
-    std::vector<Neighboured> sines = {{0x461c3fc9, 0xbe8213c5, 0xbe8213c6},
-                                      {0xc60fc5e6, 0xbe7d9ccf, 0xbe7d9ccd},
-                                      {0x00000001, 0x00000001, 0x00000001},
-                                      {0x0da24260, 0x0da24260, 0x0da24260}};
+    std::vector<harness::BesideRow> sines = {{0x461c3fc9, 0xbe8213c5, 0xbe8213c6},
+                                             {0xc60fc5e6, 0xbe7d9ccf, 0xbe7d9ccd},
+                                             {0x00000001, 0x00000001, 0x00000001},
+                                             {0x0da24260, 0x0da24260, 0x0da24260}};
     for (std::string name : {"sinf", "sincosf", "sincosregf"}) expect_beside(name, sines);
     // The sign of zero: gone with the signed reduction, kept with that of the absolute value.
     expect_beside("sinf", {{0x80000000, 0x80000000, 0x00000000}});

@@ -59,8 +59,13 @@ std::vector<Float> tangent_row(int j, int steps, int highest) {
     while (c[1].as_double() >= 1.5 * slope_head) slope_head *= 2;
     Float weight = 4 * j >= steps && 4 * j < 3 * steps ? 1 : 0;
 
-    std::vector<Float> row = {head(distance), tail(distance), weight, head(c[0]), tail(c[0]),
-                              static_cast<Float>(slope_head), head(c[1] - Real(slope_head))};
+    std::vector<Float> row = {head(distance),
+                              tail(distance),
+                              weight,
+                              head(c[0]),
+                              tail(c[0]),
+                              static_cast<Float>(slope_head),
+                              head(c[1] - Real(slope_head))};
     for (int n = 2; n <= highest; ++n) row.push_back(head(c[static_cast<size_t>(n)]));
     return row;
 }
