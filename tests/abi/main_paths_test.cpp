@@ -22,7 +22,7 @@ struct Instruction {
 
 std::string_view trimmed(std::string_view text) {
     size_t first = text.find_first_not_of(" \n");
-    return first == text.npos ? "" : text.substr(first, text.find_last_not_of(" \n") + 1 - first);
+    return first == std::string_view::npos ? "" : text.substr(first, text.find_last_not_of(" \n") + 1 - first);
 }
 
 // Every function of the library, by name.
@@ -35,9 +35,9 @@ std::map<std::string, std::vector<Instruction>> disassemble(const std::string& l
     while (fgets(text, sizeof text, pipe.get())) {
         // "00001230 <name>:", or "    1230:\tmnemonic operands"
         std::string_view line = trimmed(text);
-        if (size_t name = line.find(" <"); text[0] == '0' && name != line.npos) {
+        if (size_t name = line.find(" <"); text[0] == '0' && name != std::string_view::npos) {
             current = &functions[std::string(line.substr(name + 2, line.size() - name - 4))];
-        } else if (size_t tab = line.find('\t'); current && tab != line.npos) {
+        } else if (size_t tab = line.find('\t'); current && tab != std::string_view::npos) {
             std::string_view instruction = line.substr(tab + 1);
             size_t end = std::min(instruction.find(' '), instruction.size());
             current->push_back(
