@@ -111,6 +111,8 @@ struct LongSineAndCosine {
 
 // ---- The families. -----------------------------------------------------------------------------------------
 
+// Error on the short path, found by random operands and their neighbourhoods: sine 3.58 ulp (0x1.edc883de772f1p+16),
+// cosine 3.76 (0x1.08df39b519149p+17), both together 3.61; on the long path 0.503. Native, up to 2^23: 5.46e7.
 struct sin {
     static D2 main(D2 x) { return short_sine(x, in_memory(sin_data)); }
     static L2 beyond(D2 x) { return and_bits(x, sin_data.magnitude) > sin_data.limit; }

@@ -43,6 +43,8 @@ inline D2 or_pole(const TangentExpansion<D2>& expansion, L2 index, const auto& d
 
 // ---- The families. -----------------------------------------------------------------------------------------
 
+// Error, over all errors that the estimate may have: float 1.91 ulp, native 7; double 4.2 in both classes.
+//
 // The accurate and the native class of doubles are the same steps; the native one repairs nothing.
 template <class Unit, const auto& record>
 struct TangentPi {
