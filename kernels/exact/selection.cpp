@@ -4,9 +4,9 @@
 //
 // The records hold one or two integers, which all units of a call share in registers: kernels this short would pay
 // for a memory operand in each unit.
+#include "frame/lane_frame.h"
 #include "kernels/exact/exact_data.h"
 #include "kernels/exact/special.h"
-#include "frame/lane_frame.h"
 
 namespace zorv {
 namespace {

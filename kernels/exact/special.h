@@ -1,8 +1,8 @@
 // Operands that are infinite or NaN: nothing but ones in the exponent field.
 #pragma once
 
-#include "kernels/exact/exact_data.h"
 #include "frame/units.h"
+#include "kernels/exact/exact_data.h"
 
 namespace zorv {
 

@@ -31,10 +31,10 @@
 #define CALL_two_operands_integer_pointer_result(call, f, code, w) \
     *RESULT(f, w, 0) = call(OPERAND(f, w, 0), OPERAND(f, w, 1), RESULT(int, w, 1));
 #define CALL_pair_result(call, f, code, w) CALL_pair_##w(call, f, w)
-#define CALL_pair_1(call, f, w)                          \
-    VECTOR(f, 2) both = call(OPERAND(f, w, 0));          \
+#define CALL_pair_1(call, f, w)                 \
+    VECTOR(f, 2) both = call(OPERAND(f, w, 0)); \
     *RESULT(f, w, 0) = both.x, *RESULT(f, w, 1) = both.y;
-#define CALL_pair_wide(call, f, w)                       \
+#define CALL_pair_wide(call, f, w)                         \
     PASTE5(f, w, _pair, , ) both = call(OPERAND(f, w, 0)); \
     *RESULT(f, w, 0) = both.sine, *RESULT(f, w, 1) = both.cosine;
 #define CALL_pair_2 CALL_pair_wide
@@ -53,16 +53,16 @@
 #define CALL_from_u64(call, f, code, w) ONE(call, f, ulong, w)
 
 #define EXPORT(base, precision, class_, width) EXPORT_NAME(base, precision, class_, width)
-#define CALLER(base, precision, class_, signature, width)                                                    \
+#define CALLER(base, precision, class_, signature, width)                                                        \
     void PASTE5(opencl_, base, LETTER_##precision, width, CLASS_##class_)(private const void* private* operands, \
-                                                                          private void* private* results) {   \
-        CALL_##signature(EXPORT(base, precision, class_, width), LANE_##precision, CODE_##precision, width)   \
+                                                                          private void* private* results) {      \
+        CALL_##signature(EXPORT(base, precision, class_, width), LANE_##precision, CODE_##precision, width)      \
     }
 #define FAMILY(base, precision, class_, signature, home, traits, bound) \
-    CALLER(base, precision, class_, signature, 1)               \
-    CALLER(base, precision, class_, signature, 2)               \
-    CALLER(base, precision, class_, signature, 3)               \
-    CALLER(base, precision, class_, signature, 4)               \
-    CALLER(base, precision, class_, signature, 8)               \
+    CALLER(base, precision, class_, signature, 1)                       \
+    CALLER(base, precision, class_, signature, 2)                       \
+    CALLER(base, precision, class_, signature, 3)                       \
+    CALLER(base, precision, class_, signature, 4)                       \
+    CALLER(base, precision, class_, signature, 8)                       \
     CALLER(base, precision, class_, signature, 16)
 #include "include/grid.def"

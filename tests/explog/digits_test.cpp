@@ -1,5 +1,6 @@
-// Operands of the float exponentials and logarithms whose result, known from a model in exact arithmetic, changes with the last binary digits of one constant: between them they see nearly every constant of the main paths,
-// and of the rare routines those that reach the result. Operand, result, operand, result.
+// Operands of the float exponentials and logarithms whose result, known from a model in exact arithmetic, changes with
+// the last binary digits of one constant: between them they see nearly every constant of the main paths, and of the
+// rare routines those that reach the result. Operand, result, operand, result.
 #include "tests/harness/lanes.h"
 
 namespace {

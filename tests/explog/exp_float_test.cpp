@@ -1,4 +1,5 @@
-// Values of the single precision exponentials, by their bits, from a model in exact arithmetic that rounds where they round.
+// Values of the single precision exponentials, by their bits, from a model in exact arithmetic that rounds where they
+// round.
 #include "tests/harness/lanes.h"
 
 namespace {
