@@ -39,6 +39,8 @@ ALWAYS_INLINE Power power_by_pairs(D2 x, D2 y, const PowerDoubleData& data) {
     return {p * (g * split.rest) + g, product};
 }
 
+// Error 1.83 ulp, the largest found, at (0x1.0021e5b7eaf6ep+0, -0x1.4e2af1ca279cfp+20): half an ulp each of the table
+// and of the last sum; near the lower bound g * rest is subnormal. Rare lanes 0.52.
 struct pow {
     static Lanes<D2> main(D2 x, D2 y) {
         const auto& data = in_memory(power_double_data);
@@ -70,6 +72,8 @@ struct pown {
 
 // ---- Native. -----------------------------------------------------------------------------------------------
 
+// Error 6.5e7 ulp by the exponential; x near 1 and a large y add the logarithm's error: 2.2e9 found, 8.6e9 with the
+// worst estimate that a processor may have.
 struct pow_native {
     static D2 main(D2 x, D2 y) { return power_by_one_product(x, y, in_memory(power_native_double_data)); }
 };

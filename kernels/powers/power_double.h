@@ -52,7 +52,8 @@ struct SplitProduct {
     LaneOffsets2 row;
     D2 rest;
 };
-ALWAYS_INLINE SplitProduct split_product(D2 product, D2 tail, const PowerDoubleData& data) {
+ALWAYS_INLINE SplitProduct split_product(D2 product, D2 tail, const PowerDoubleData& record) {
+    const auto& data = in_memory(record);  // anew, else constants of the logarithm are kept, and spilled
     D2 t = product + data.shifter;
     D2 u = t - data.shifter;
     D2 rest = tail + (product - u);
@@ -82,10 +83,9 @@ ALWAYS_INLINE D2 plain_logarithm(D2 x, const PowerNativeDoubleData& data) {
     D2 n = h - bias;
     D2 r = y * c - data.one;
 
-    // The patterns of c from 512 on, in units of eight bytes, begin at 0x408000; pextrw takes the low 16 bits.
-    constexpr uint32_t first = 0x8000;
-    LaneOffsets2 row = offsets_of(signed_lanes(unsigned_lanes(bits(c)) >> 40));
-    D2 minus_log_c = gather(data.logs, LaneOffsets2{{row.lane[0] - first, row.lane[1] - first}});
+    // The patterns of c from 512 on, in units of eight bytes, begin at 0x408000; of that pextrw takes the low 16 bits.
+    const double* row_at_zero = reinterpret_cast<const double*>(reinterpret_cast<const char*>(data.logs) - 0x8000);
+    D2 minus_log_c = gather(row_at_zero, offsets_of(signed_lanes(unsigned_lanes(bits(c)) >> 40)));
 
     D2 s = r + (data.a * r + data.b) * (r * r);
     return (s + minus_log_c) + n * data.ln2;

@@ -85,6 +85,8 @@ ALWAYS_INLINE I4 magnitude_above(F4 x, const PackedSlot<int32_t>& bound, const P
     return (bits(x) & data.magnitude) > bound;
 }
 
+// Error 10.06 ulp, the largest found, at (0x1.f97f68p-1, -0x1.3cd00cp+12): y takes all errors of the logarithm along,
+// and near the bound the tail of y ln x carries rr beyond the polynomial's interval. Rare lanes 1.65.
 struct powf {
     static Lanes<F4> main(F4 x, F4 y) {
         const auto& data = in_memory(powf_data);
@@ -100,28 +102,33 @@ struct powrf {
     static constexpr auto rare = powrf_rare;
 };
 
+// Error 11.01 ulp, the largest found, at (0x1.fbfec6p-1, -9926); rare lanes 1.65. x^0 is one ulp above 1.
 struct pownf {
     static constexpr int fill = 1;
     static Lanes<F4> main(F4 x, I4 n) {
         const auto& data = in_memory(pownf_data);
+        F4 magnitude = and_bits(x, data.magnitude);
+        HeadTail<F4> log = logarithm(magnitude, data);
         F4 y = to_float(n);
         F4 lost = to_float(n - hardware_int(y));  // modulo 2^32: right where y is 2^31 too
         auto [y_head, y_tail] = split_by_product(y, F4(data.split));
+        auto [result, product] = power_by_pairs(log, {y_head, y_tail + lost}, data);
         I4 sign = (n << 31) & bits(x);
-        x = and_bits(x, data.magnitude);
-        auto [result, product] = power_by_pairs(logarithm(x, data), {y_head, y_tail + lost}, data);
-        return {or_bits(result, sign), not_ordinary(x, data) | magnitude_above(product, data.last_product, data)};
+        return {or_bits(result, sign),
+                not_ordinary(magnitude, data) | magnitude_above(product, data.last_product, data)};
     }
     static constexpr auto rare = pownf_rare;
 };
 
 // ---- Native. -----------------------------------------------------------------------------------------------
 
+// Error 4,470 ulp, the largest found, at (0x1.555752p+0, -0x1.2e5b88p+8).
 struct powf_native {
     static F4 main(F4 x, F4 y) { return power_by_one_product(x, y, in_memory(powf_native_data)); }
 };
 using powrf_native = powf_native;
 
+// Error 4,941 ulp, the largest found, at (0x1.5565a4p+0, -301).
 struct pownf_native {
     static constexpr int fill = 1;
     static F4 main(F4 x, I4 n) {

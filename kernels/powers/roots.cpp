@@ -51,6 +51,7 @@ Status rootn_rare(const double* x, const int32_t* n, double* result) { return ro
 
 inline I4 negative_with_even_root(I4 x, I4 n) { return (x < 0) & ((n << 31) == 0); }
 
+// Error 15.34 ulp, the largest found, at (0x1.000004p-126, -3); 0.62 where n is a power of two.
 struct rootnf {
     static constexpr int fill = 1;
     static Lanes<F4> main(F4 x, I4 n) {
@@ -61,17 +62,25 @@ struct rootnf {
         I4 rare = (bits(magnitude) - data.one_step > data.last_ordinary) |
                   ((bits(inverse) & data.magnitude) > data.last_finite) | negative_with_even_root(bits(x), n);
 
-        const auto& chain = in_memory(power_native_double_data);
-        D4 wide = widen(magnitude), y = widen(inverse);
-        D4 product = {plain_logarithm(wide.low, chain) * y.low, plain_logarithm(wide.high, chain) * y.high};
+        D4 wide = widen(magnitude), y = widen(inverse), product, result;
+        {
+            const auto& chain = in_memory(power_native_double_data);
+            product.low = plain_logarithm(wide.low, chain) * y.low;
+            result.low = plain_exponential(product.low, chain);
+        }
+        {
+            const auto& chain = in_memory(power_native_double_data);
+            product.high = plain_logarithm(wide.high, chain) * y.high;
+            result.high = plain_exponential(product.high, chain);
+        }
         I4 product_high = high_halves(bits(product.low), bits(product.high)) & data.magnitude;
         rare = rare | (product_high > data.last_product);
-        D4 result = {plain_exponential(product.low, chain), plain_exponential(product.high, chain)};
         return {or_bits(narrow(result), sign), rare};
     }
     static constexpr auto rare = rootnf_rare;
 };
 
+// Error 0.51 ulp, the largest found; subnormal x 124, by the rare routine's rounded 1/n.
 struct rootn {
     static constexpr int fill = 1;
     static Lanes<D2> main(D2 x, N2 n) {
@@ -107,6 +116,7 @@ struct rootn {
 
 // ---- Native. -----------------------------------------------------------------------------------------------
 
+// Error 1,390 ulp, the largest found, at (0x1.ffe8f6p+98, 1).
 struct rootnf_native {
     static constexpr int fill = 1;
     static F4 main(F4 x, I4 n) {
@@ -117,6 +127,7 @@ struct rootnf_native {
     }
 };
 
+// Error 6.5e7 ulp by the exponential.
 struct rootn_native {
     static constexpr int fill = 1;
     static D2 main(D2 x, N2 n) {
