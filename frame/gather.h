@@ -42,6 +42,11 @@ inline LaneOffsets2 offsets_of(L2 lanes) {
     __m128i unit = reinterpret_cast<__m128i>(lanes);
     return {{static_cast<uint32_t>(_mm_cvtsi128_si32(unit)), static_cast<uint32_t>(_mm_extract_epi16(unit, 4))}};
 }
+// The low words alone, whatever stands above them.
+inline LaneOffsets2 offsets_of_words(L2 lanes) {
+    __m128i unit = reinterpret_cast<__m128i>(lanes);
+    return {{static_cast<uint32_t>(_mm_extract_epi16(unit, 0)), static_cast<uint32_t>(_mm_extract_epi16(unit, 4))}};
+}
 
 // Where row 0 of a table would stand whose first row is that of another index: the address of the load absorbs the
 // difference. (Subtracted from the offsets, it would tempt the compiler to shuffle them back into a unit.)

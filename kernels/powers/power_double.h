@@ -22,7 +22,7 @@ struct SplitLog {
 ALWAYS_INLINE SplitLog logarithm(D2 x, const PowerDoubleData& data) {
     D2 m = or_bits(and_bits(x, data.mantissa), bits(D2(data.one)));
     L2 rounded = (bits(x) & data.row_bits) + data.half_row;
-    LaneOffsets2 row = offsets_of(signed_lanes(unsigned_lanes(rounded) >> 42));
+    LaneOffsets2 row = offsets_of_words(signed_lanes(unsigned_lanes(rounded) >> 42));
     D2 c = gather_indexed(data.c, row);
     ColumnPair log = gather_pair(&data.logs[0].head, LaneOffsets2{{row.lane[0] * 16, row.lane[1] * 16}});
 
@@ -59,7 +59,7 @@ ALWAYS_INLINE SplitProduct split_product(D2 product, D2 tail, const PowerDoubleD
     D2 rest = tail + (product - u);
     L2 row = (bits(t) << 4) & data.power_row;
     D2 power_of_two = as_double(((bits(t) << 45) + bits(D2(data.one))) & data.exponent_field);
-    return {power_of_two, offsets_of(row), rest};
+    return {power_of_two, offsets_of_words(row), rest};
 }
 
 // Masks of high halves alone, of which signed compares decide.
@@ -85,7 +85,7 @@ ALWAYS_INLINE D2 plain_logarithm(D2 x, const PowerNativeDoubleData& data) {
 
     // The patterns of c from 512 on, in units of eight bytes, begin at 0x408000; of that pextrw takes the low 16 bits.
     const double* row_at_zero = reinterpret_cast<const double*>(reinterpret_cast<const char*>(data.logs) - 0x8000);
-    D2 minus_log_c = gather(row_at_zero, offsets_of(signed_lanes(unsigned_lanes(bits(c)) >> 40)));
+    D2 minus_log_c = gather(row_at_zero, offsets_of_words(signed_lanes(unsigned_lanes(bits(c)) >> 40)));
 
     D2 s = r + (data.a * r + data.b) * (r * r);
     return (s + minus_log_c) + n * data.ln2;

@@ -1,7 +1,6 @@
 // The tables of docs/differences.md, replayed: what the page says of this library is so, and is a difference.
 #include <cctype>
 #include <cstdlib>
-#include <filesystem>
 #include <fstream>
 #include <sstream>
 
@@ -17,7 +16,7 @@ struct Difference {
 };
 
 std::vector<Difference> differences() {
-    std::ifstream page(std::filesystem::path(__FILE__).parent_path() / "../../docs/differences.md");
+    std::ifstream page(ZORV_DOCS_DIRECTORY "/differences.md");
     std::vector<Difference> rows;
     for (std::string line; std::getline(page, line);) {
         if (!line.starts_with("| `")) continue;
