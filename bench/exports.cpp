@@ -13,7 +13,7 @@ namespace bench {
 
 const std::vector<std::array<Pass, 6>>& export_passes() {
     static const std::vector<std::array<Pass, 6>> passes = {
-#define FAMILY(base, precision, class_, signature, home, traits, bound)                              \
+#define FAMILY(base, precision, class_, signature, home, traits, bound)                      \
     {EXPORT_PASS(base, precision, class_, std::string_view(#signature) == "pair_result", 1), \
      EXPORT_PASS(base, precision, class_, false, 2),                                         \
      EXPORT_PASS(base, precision, class_, false, 3),                                         \
