@@ -326,17 +326,24 @@ class Stretch {
                   std::ranges::all_of(family.results, [](Lane lane) { return lane == Lane::f32; });
     }
 
-    // Where the operation is not smooth over `size` numbers it may be over a sixteenth of them.
-    void sweep(int64_t first, int64_t last, int64_t size, Finding& worst) {
-        constexpr int64_t longest = 1 << 12, shortest = 1 << 8;
-        if (size <= longest && smooth_ && interpolant_.fit(operation_, number(first), number(last)))
-            return go(first, last, worst, &interpolant_);
-        if (size <= shortest || !smooth_) return go(first, last, worst, nullptr);
-        for (int64_t at = first; at <= last; at += size / 16)
-            sweep(at, std::min(at + size / 16 - 1, last), size / 16, worst);
+    // Where the operation is not smooth over 4,096 numbers it may be over 256.
+    void sweep(int64_t first, int64_t last, Finding& worst) {
+        each(first, last, 1 << 12, [&](int64_t from, int64_t to) {
+            if (fits(from, to)) return go(from, to, worst, &interpolant_);
+            each(from, to, 1 << 8, [&](int64_t begin, int64_t end) {
+                go(begin, end, worst, fits(begin, end) ? &interpolant_ : nullptr);
+            });
+        });
     }
 
   private:
+    template <class Part>
+    static void each(int64_t first, int64_t last, int64_t size, const Part& part) {
+        for (int64_t at = first; at <= last; at += size) part(at, std::min(at + size - 1, last));
+    }
+    bool fits(int64_t first, int64_t last) {
+        return smooth_ && interpolant_.fit(operation_, number(first), number(last));
+    }
     static double number(int64_t order) {
         return static_cast<double>(reference::lane_value(Lane::f32, from_order(Lane::f32, order)));
     }
@@ -376,7 +383,7 @@ Finding sweep_exhaustive(const grid::Family& family, const Range& range, const O
         int64_t last = std::min(first + piece_size - 1, span.last);
         uint64_t before = worst.tried;
         Stretch stretch(family, range, width, options.watch);
-        stretch.sweep(first, last, piece_size, worst);
+        stretch.sweep(first, last, worst);
         worst.tried = before + static_cast<uint64_t>(last - first + 1);
     };
     return simplest(family, range, over_pieces(pieces, options, sweep, start));

@@ -170,8 +170,8 @@ uint64_t draw(Kind kind, Mood mood, Random& random) {
     int digits = kind == Kind::single ? 23 : 52, bias = kind == Kind::single ? 127 : 1023;
     // A random sign and significand under an exponent from these.
     auto scaled = [&](int lowest, int highest) {
-        uint64_t exponent =
-            static_cast<uint64_t>(lowest + bias) + random.below(static_cast<uint64_t>(highest - lowest + 1));
+        auto first = static_cast<unsigned>(lowest + bias), last = static_cast<unsigned>(highest + bias);
+        uint64_t exponent = first + random.below(last - first + 1);
         uint64_t bits = random.next();
         uint64_t significand = bits & ((uint64_t{1} << digits) - 1), sign = bits >> 63;
         return (sign << (kind == Kind::single ? 31 : 63)) | (exponent << digits) | significand;

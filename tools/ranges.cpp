@@ -131,7 +131,7 @@ void Operands::draw(Random& random, uint64_t* patterns) const {
 }
 
 void Operands::move(Random& random, uint64_t* patterns) const {
-    uint64_t moved[most];
+    uint64_t moved[most] = {};
     for (size_t i = 0; i < spans_.size(); ++i)
         moved[i] = random.next() % 3 ? mutate(spans_[i], patterns[i], random) : patterns[i];
     if (!range_.is_dependent() || is_tied(moved)) std::copy_n(moved, spans_.size(), patterns);

@@ -36,6 +36,8 @@ struct AnyWorld {
     static constexpr bool has_operators = false;  // an expression of operators alone calls nothing of SLEEF's
 };
 
+// clang-format off
+
 // A function of floats and of doubles, under the name that expressions call it by.
 #define FUNCTION(name, theirs)                                         \
     inline __m128 name(__m128 x) { return SLEEF_NAME(theirs, f4)(x); } \
@@ -65,10 +67,9 @@ struct AnyWorld {
 namespace u05 {
 #define SLEEF_NAME(name, lanes) Sleef_##name##lanes##_u05sse2
 WORLD("sleef_u05", 4)
-SAME(sqrt)
-SAME(sinpi) SAME(cospi) SAME2(hypot)
+SAME(sqrt) SAME(sinpi) SAME(cospi) SAME2(hypot)
 #undef SLEEF_NAME
-    void add(std::vector<Peer>& peers) {
+void add(std::vector<Peer>& peers) {
 #define PEERS(base, ...) WORLD_PEERS(World, base, __VA_ARGS__)
 #include "include/operations.def"
 }
@@ -77,12 +78,12 @@ SAME(sinpi) SAME(cospi) SAME2(hypot)
 namespace u10 {
 #define SLEEF_NAME(name, lanes) Sleef_##name##lanes##_u10sse2
 WORLD("sleef_u10", 4)
-SAME(exp)
-SAME(exp2) SAME(exp10) SAME(expm1) SAME(log) SAME(log2) SAME(log10) SAME(log1p) SAME(cbrt) SAME(sin) SAME(cos) SAME(tan)
-    SAME(asin) SAME(acos) SAME(atan) SAME(sinh) SAME(cosh) SAME(tanh) SAME(asinh) SAME(acosh) SAME(atanh) SAME(erf)
-        SAME(tgamma) SAME(lgamma) SAME2(pow) SAME2(atan2) SINE_AND_COSINE
+SAME(exp) SAME(exp2) SAME(exp10) SAME(expm1) SAME(log) SAME(log2) SAME(log10) SAME(log1p) SAME(cbrt)
+SAME(sin) SAME(cos) SAME(tan) SAME(asin) SAME(acos) SAME(atan) SAME(sinh) SAME(cosh) SAME(tanh)
+SAME(asinh) SAME(acosh) SAME(atanh) SAME(erf) SAME(tgamma) SAME(lgamma) SAME2(pow) SAME2(atan2)
+SINE_AND_COSINE
 #undef SLEEF_NAME
-    void add(std::vector<Peer>& peers) {
+void add(std::vector<Peer>& peers) {
 #define PEERS(base, ...) WORLD_PEERS(World, base, __VA_ARGS__)
 #include "include/operations.def"
 }
@@ -102,11 +103,11 @@ void add(std::vector<Peer>& peers) {
 namespace u35 {
 #define SLEEF_NAME(name, lanes) Sleef_##name##lanes##_u35sse2
 WORLD("sleef_u35", 4)
-SAME(sqrt)
-SAME(exp2) SAME(exp10) SAME(log) SAME(log2) SAME(cbrt) SAME(sin) SAME(cos) SAME(tan) SAME(asin) SAME(acos) SAME(atan)
-    SAME(sinh) SAME(cosh) SAME(tanh) SAME2(hypot) SAME2(atan2) SINE_AND_COSINE
+SAME(sqrt) SAME(exp2) SAME(exp10) SAME(log) SAME(log2) SAME(cbrt) SAME(sin) SAME(cos) SAME(tan) SAME(asin)
+SAME(acos) SAME(atan) SAME(sinh) SAME(cosh) SAME(tanh) SAME2(hypot) SAME2(atan2)
+SINE_AND_COSINE
 #undef SLEEF_NAME
-    void add(std::vector<Peer>& peers) {
+void add(std::vector<Peer>& peers) {
 #define PEERS(base, ...) WORLD_PEERS(World, base, __VA_ARGS__)
 #include "include/operations.def"
 }
@@ -131,11 +132,9 @@ void add(std::vector<Peer>& peers) {
 namespace plain {
 #define SLEEF_NAME(name, lanes) Sleef_##name##lanes##_sse2
 WORLD("sleef", 4)
-SAME(floor)
-SAME(ceil) SAME(rint) SAME(round) SAME(trunc) SAME(fabs) SAME2(fmin) SAME2(fmax) SAME2(fdim) SAME2(copysign) SAME2(fmod)
-    SAME2(remainder) SAME2(nextafter) inline __m128 fma(__m128 x, __m128 y, __m128 z) {
-    return SLEEF_NAME(fma, f4)(x, y, z);
-}
+SAME(floor) SAME(ceil) SAME(rint) SAME(round) SAME(trunc) SAME(fabs) SAME2(fmin) SAME2(fmax) SAME2(fdim)
+SAME2(copysign) SAME2(fmod) SAME2(remainder) SAME2(nextafter)
+inline __m128 fma(__m128 x, __m128 y, __m128 z) { return SLEEF_NAME(fma, f4)(x, y, z); }
 inline __m128d fma(__m128d x, __m128d y, __m128d z) { return SLEEF_NAME(fma, d2)(x, y, z); }
 inline __m128 modf(__m128 x, __m128& integral) {
     auto both = SLEEF_NAME(modf, f4)(x);
@@ -160,6 +159,8 @@ void add(std::vector<Peer>& peers) {
 #include "include/operations.def"
 }
 }  // namespace plain
+
+// clang-format on
 
 }  // namespace bench::sleef
 
