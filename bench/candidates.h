@@ -1,4 +1,4 @@
-// What can be timed: a pass over arrays, under a name, with the error it claims.
+// What can be timed: a pass over arrays, under a name, with the error that it may have.
 #pragma once
 
 #include <array>
@@ -30,19 +30,19 @@ using Pass = void (*)(const Arrays&);
 
 // The passes over this library's exports: for each standing family, in the grid's order, one for each width.
 const std::vector<std::array<Pass, 6>>& export_passes();
+// Their floors, in the same order; null where there is none.
+const std::vector<Pass>& floor_passes();
 
 // Somebody else's way to the same results.
 struct Peer {
     std::string family;  // as the grid names it
     std::string column;  // of the table
-    double bound;        // maximum error in ulp that its makers state
+    double bound;        // in ulp: with a larger error it is not timed
     std::vector<int> widths;
     Pass pass;
 };
-inline const std::vector<int> every_width = {1, 2, 3, 4, 8, 16};
 
 void add_c_library(std::vector<Peer>& peers);
-void add_hardware(std::vector<Peer>& peers);
 void add_by_hand(std::vector<Peer>& peers);
 void add_sleef(std::vector<Peer>& peers);
 void add_xsimd(std::vector<Peer>& peers);

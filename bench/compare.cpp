@@ -6,8 +6,7 @@
 #include <chrono>
 #include <cmath>
 #include <cstdio>
-
-#include "bench/reference.h"
+#include <memory>
 
 namespace bench {
 namespace {
@@ -19,7 +18,6 @@ const std::vector<Peer>& peers() {
     static const std::vector<Peer> list = [] {
         std::vector<Peer> all;
         add_c_library(all);
-        add_hardware(all);
         add_by_hand(all);
 #ifdef HAVE_SLEEF
         add_sleef(all);
@@ -50,40 +48,67 @@ double median(std::vector<double> values) {
     return *middle;
 }
 
+size_t index_of(const std::string& name) {
+    const std::vector<grid::Family>& all = grid::families();
+    return static_cast<size_t>(std::ranges::find(all, name, &grid::Family::name) - all.begin());
+}
 // Our own pass over a family, by its place in the grid; null where it does not stand.
 Pass pass_of(const std::string& name, int width) {
-    for (size_t i = 0; i < grid::families().size(); ++i)
-        if (grid::families()[i].name == name) {
-            auto at = std::find(grid::widths.begin(), grid::widths.end(), width) - grid::widths.begin();
-            return export_passes()[i][static_cast<size_t>(at)];
-        }
-    return nullptr;
+    size_t i = index_of(name);
+    if (i == grid::families().size()) return nullptr;
+    return export_passes()[i][static_cast<size_t>(std::ranges::find(grid::widths, width) - grid::widths.begin())];
+}
+Pass floor_of(const std::string& name) {
+    size_t i = index_of(name);
+    return i == grid::families().size() ? nullptr : floor_passes()[i];
+}
+
+// Answers are slow to get, and the same for all widths: those of the latest operands are kept.
+const Answers& answers_to(const grid::Family& family, Set set, const Arrays& arrays) {
+    static std::string key;
+    static std::unique_ptr<Answers> answers;
+    std::string wanted = family.name + "/" + name_of(set);
+    if (wanted != key) answers = std::make_unique<Answers>(family, arrays);
+    key = wanted;
+    return *answers;
+}
+
+// The export that does the least with as many operands.
+std::string least_of(const grid::Family& family) {
+    const char* bases[] = {"fabs", "copysign", "mad"};
+    return bases[family.operands.size() - 1] + std::string(family.is_single ? "f" : "");
 }
 
 }  // namespace
 
 Comparison::Comparison(const grid::Family& family, int width, Set set)
-    : workload_(family, set), clean_(family, Set::in_range) {
+    : workload_(family, set), clean_(family, Set::in_range), answers_(&answers_to(family, set, workload_.arrays())) {
     auto error_of = [&](Pass pass) {
         workload_.clear_results();
         pass(workload_.arrays());
-        return largest_error(family, width, workload_.arrays());
+        return answers_->largest_error(workload_.arrays(), width);
+    };
+    auto slack = [](double bound) { return bound > 0 ? Answers::slack : 0; };
+    auto dismiss = [&](const std::string& column, double error) {
+        char text[32];
+        std::snprintf(text, sizeof text, "%.3g", error);
+        dismissed_.push_back(column + " (" + text + " ulp)");
     };
 
-    Pass own = pass_of(family.name, width);
-    double error = error_of(own);
-    if (std::isnan(error)) {
+    if (!answers_->known()) {
         fault_ = "no reference for " + family.name;
         return;
     }
-    if (error > family.bound + (family.bound > 0 ? reference_error : 0)) {
+    Pass own = pass_of(family.name, width);
+    double error = error_of(own);
+    if (error > family.bound + slack(family.bound)) {
         fault_ = family.name + " is off by " + std::to_string(error) + " ulp";
         return;
     }
     add(ours, own, false, workload_);
 
     // Our own yardsticks: the same family on clean operands, the accurate class beside the native one, the sine
-    // beside the sine and cosine.
+    // beside the sine and cosine; and the floor, which knows neither rare lanes nor widths.
     if (set == Set::one_rare_in_64 || set == Set::all_rare) add("clean", own, false, clean_);
     if (family.is_native) {
         std::string accurate = family.name.substr(0, family.name.rfind("_native"));
@@ -91,21 +116,27 @@ Comparison::Comparison(const grid::Family& family, int width, Set set)
     }
     if (family.base == "sincos" && !family.is_native)
         if (Pass pass = pass_of(family.is_single ? "sinf" : "sin", width)) add("sin", pass, false, workload_);
+    if (Pass floor = floor_of(family.name); floor && set == Set::in_range && width >= 4) {
+        if (double off = error_of(floor); off > family.bound + slack(family.bound)) {
+            dismiss(floor_column, off);
+        } else {
+            add(floor_column, floor, false, workload_);
+            std::string least = least_of(family);
+            add(call, pass_of(least, width), false, workload_);
+            add(call_floor, floor_of(least), false, workload_);
+        }
+    }
 
     std::string counterpart = family.base + (family.is_single ? "f" : "");
     for (const Peer& peer : peers()) {
-        if (peer.family != counterpart || std::find(peer.widths.begin(), peer.widths.end(), width) == peer.widths.end())
-            continue;
-        if (peer.column == "by_hand" && (family.is_native || set != Set::in_range))
-            continue;  // nothing behind its mask
-        double peer_error = error_of(peer.pass);
-        if (peer_error > peer.bound + (peer.bound > 0 ? reference_error : 0)) {
-            char error_text[32];
-            std::snprintf(error_text, sizeof error_text, "%.3g", peer_error);
-            dismissed_.push_back(peer.column + " (" + error_text + " ulp)");
+        if (peer.family != counterpart || std::ranges::count(peer.widths, width) == 0) continue;
+        if (peer.column == "by_hand" && (family.is_native || set != Set::in_range)) continue;  // as the floor
+        if (peer.bound > error_of_a_rival && !family.is_native) continue;
+        if (double off = error_of(peer.pass); off > peer.bound + slack(peer.bound)) {
+            dismiss(peer.column, off);
             continue;
         }
-        bool is_rival = peer.bound <= error_of_a_rival && peer.column != "hardware" && peer.column != "by_hand";
+        bool is_rival = peer.bound <= error_of_a_rival && peer.column != "by_hand";
         add(peer.column, peer.pass, is_rival, workload_);
     }
     calibrate();
@@ -136,11 +167,10 @@ double Comparison::round() {
     return candidates_[0].times.back();
 }
 
-std::map<std::string, double> Comparison::ratios() const {
-    std::map<std::string, double> ratios;
-    double own = median(candidates_[0].times);
-    for (const Candidate& candidate : candidates_) ratios[candidate.column] = median(candidate.times) / own;
-    return ratios;
+std::map<std::string, double> Comparison::times() const {
+    std::map<std::string, double> times;
+    for (const Candidate& candidate : candidates_) times[candidate.column] = median(candidate.times);
+    return times;
 }
 
 std::string Comparison::fastest_rival() const {

@@ -6,12 +6,15 @@
 #include <string>
 #include <vector>
 
+#include "bench/answers.h"
 #include "bench/candidates.h"
 #include "bench/operands.h"
 
 namespace bench {
 
-inline constexpr const char* ours = "ours";
+// Columns that are no peers: this library's own export, the loop over its main path; an export that computes next to
+// nothing, and its own floor: what those two are apart is the cost of a call.
+inline constexpr const char *ours = "ours", *floor_column = "floor", *call = "call", *call_floor = "call_floor";
 
 class Comparison {
   public:
@@ -24,8 +27,8 @@ class Comparison {
 
     // Every candidate once, for a stretch of about 100 microseconds each; the time of ours, in seconds.
     double round();
-    // After the rounds: the median time of each candidate over the median of ours.
-    std::map<std::string, double> ratios() const;
+    // After the rounds: the median time of each candidate, in seconds for a pass.
+    std::map<std::string, double> times() const;
     // The column of the fastest peer with an error of 4 ulp at most; empty without one.
     std::string fastest_rival() const;
 
@@ -42,6 +45,7 @@ class Comparison {
     void calibrate();
 
     Workload workload_, clean_;
+    const Answers* answers_;
     std::string fault_;
     std::vector<std::string> dismissed_;
     std::vector<Candidate> candidates_;  // ours first

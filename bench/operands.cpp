@@ -3,7 +3,10 @@
 #include <cmath>
 #include <cstdint>
 #include <cstring>
+#include <optional>
 #include <random>
+
+#include "tools/ranges.h"
 
 namespace bench {
 namespace {
@@ -27,16 +30,16 @@ struct Values {
 };
 
 enum class Kind { in_range, rare, long_path };
+enum class Precision { float_, double_, both };
+enum class Class { accurate, native, any };
 struct Row {
     std::string key;
-    bool is_single;
-    std::string class_name;  // empty: any
+    Precision precision;
+    Class class_;
     Kind kind;
     std::vector<Values> operands;
 };
 
-#define SINGLE_float_ true
-#define SINGLE_double_ false
 #define BETWEEN(low, high)          \
     Values {                        \
         Values::even, { low, high } \
@@ -51,25 +54,34 @@ struct Row {
     }
 const std::vector<Row>& rows() {
     static const std::vector<Row> list = {
-#define IN_RANGE(key, precision, ...) {#key, SINGLE_##precision, "", Kind::in_range, {__VA_ARGS__}},
-#define RARE(key, precision, class_, ...) {#key, SINGLE_##precision, #class_, Kind::rare, {__VA_ARGS__}},
-#define LONG_PATH(key, precision, class_, ...) {#key, SINGLE_##precision, #class_, Kind::long_path, {__VA_ARGS__}},
-#include "bench/operands.def"
-#define IN_RANGE(key, precision, ...) {#key, SINGLE_##precision, "", Kind::in_range, {__VA_ARGS__}},
-#define RARE(key, precision, class_, ...) {#key, SINGLE_##precision, #class_, Kind::rare, {__VA_ARGS__}},
-#define LONG_PATH(key, precision, class_, ...) {#key, SINGLE_##precision, #class_, Kind::long_path, {__VA_ARGS__}},
+#define ROW(key, precision, class_, kind, ...) {key, Precision::precision, Class::class_, Kind::kind, {__VA_ARGS__}},
+#define IN_RANGE(key, precision, ...) ROW(#key, precision, any, in_range, __VA_ARGS__)
+#define RARE(key, precision, class_, ...) ROW(#key, precision, class_, rare, __VA_ARGS__)
+#define LONG_PATH(key, precision, class_, ...) ROW(#key, precision, class_, long_path, __VA_ARGS__)
 #include "include/operations.def"
     };
     return list;
 }
 
-const Row* find(const grid::Family& family, Kind kind) {
-    for (const std::string& key : {family.base, family.signature})
-        for (const Row& row : rows())
-            if (row.key == key && row.is_single == family.is_single && row.kind == kind &&
-                (row.class_name.empty() || row.class_name == (family.is_native ? "native" : "accurate")))
-                return &row;
+// The row of the base name or of the signature; null without one.
+const Row* find(const std::string& key, const grid::Family& family, Kind kind) {
+    for (const Row& row : rows())
+        if (row.key == key && row.kind == kind &&
+            (row.precision == Precision::both || (row.precision == Precision::float_) == family.is_single) &&
+            (row.class_ == Class::any || (row.class_ == Class::native) == family.is_native))
+            return &row;
     return nullptr;
+}
+
+// The first range that names an interval for each operand, or ties the second to the first.
+std::optional<accuracy::Range> first_range(const grid::Family& family) {
+    for (const accuracy::Range& range : accuracy::ranges_of(family)) {
+        bool named = !range.x.is_whole() && !range.beside && !range.width;
+        for (size_t i = 1; i < family.operands.size(); ++i)
+            named &= !range.operand(i).is_whole() || (i == 1 && range.is_dependent());
+        if (named) return range;
+    }
+    return {};
 }
 
 template <class Element>
@@ -93,30 +105,7 @@ void store_lane(void* array, grid::Lane lane, size_t i, double value) {
     }
 }
 
-template <class Element>
-long double fetch(const void* array, size_t i) {
-    return static_cast<long double>(static_cast<const Element*>(array)[i]);
-}
-
 }  // namespace
-
-long double lane_at(const void* array, grid::Lane lane, size_t i) {
-    switch (lane) {
-        case grid::Lane::f32:
-            return fetch<float>(array, i);
-        case grid::Lane::f64:
-            return fetch<double>(array, i);
-        case grid::Lane::i32:
-            return fetch<int32_t>(array, i);
-        case grid::Lane::u32:
-            return fetch<uint32_t>(array, i);
-        case grid::Lane::i64:
-            return fetch<int64_t>(array, i);
-        case grid::Lane::u64:
-            return fetch<uint64_t>(array, i);
-    }
-    return 0;
-}
 
 const char* name_of(Set set) {
     switch (set) {
@@ -133,8 +122,8 @@ const char* name_of(Set set) {
 }
 
 bool has_set(const grid::Family& family, Set set) {
-    if (set == Set::in_range) return find(family, Kind::in_range) != nullptr;
-    return find(family, set == Set::long_path ? Kind::long_path : Kind::rare) != nullptr;
+    if (set == Set::in_range) return true;
+    return find(family.base, family, set == Set::long_path ? Kind::long_path : Kind::rare) != nullptr;
 }
 
 Workload::Workload(const grid::Family& family, Set set) : storage_(1) {
@@ -142,13 +131,28 @@ Workload::Workload(const grid::Family& family, Set set) : storage_(1) {
     for (size_t i = 0; i < 3; ++i) arrays_.operands[i] = bytes + i * bytes_apart;
     for (size_t i = 0; i < 2; ++i) arrays_.results[i] = bytes + (3 + i) * bytes_apart;
 
-    const Row* ordinary = find(family, set == Set::long_path ? Kind::long_path : Kind::in_range);
-    const Row* rare = find(family, Kind::rare);
+    const Row* ordinary = find(family.base, family, set == Set::long_path ? Kind::long_path : Kind::in_range);
+    const Row* rare = find(family.base, family, Kind::rare);
+    std::optional<accuracy::Operands> range;
+    if (!ordinary) {
+        if (std::optional<accuracy::Range> first = first_range(family)) range.emplace(family, *first);
+        ordinary = find(family.signature, family, Kind::in_range);
+    }
     std::mt19937 random(20011);
+    accuracy::Random random_of_range(20011);
     size_t rare_position = 0;
     for (size_t i = 0; i < elements; ++i) {
         if (i % 64 == 0) rare_position = i + random() % 64;
         bool is_rare = set == Set::all_rare || (set == Set::one_rare_in_64 && i == rare_position);
+        if (!is_rare && range) {
+            uint64_t patterns[accuracy::Operands::most];
+            range->draw(random_of_range, patterns);
+            for (size_t operand = 0; operand < family.operands.size(); ++operand) {
+                size_t size = grid::size_of(family.operands[operand]);
+                std::memcpy(bytes + operand * bytes_apart + i * size, &patterns[operand], size);
+            }
+            continue;
+        }
         const Row* row = is_rare ? rare : ordinary;
         for (size_t operand = 0; operand < family.operands.size(); ++operand)
             store_lane(bytes + operand * bytes_apart, family.operands[operand], i, row->operands[operand].draw(random));

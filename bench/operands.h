@@ -31,7 +31,4 @@ class Workload {
     Arrays arrays_;
 };
 
-// Lane i of an array, as a number: a 64-bit significand holds every lane type.
-long double lane_at(const void* array, grid::Lane lane, size_t i);
-
 }  // namespace bench

@@ -1,19 +1,21 @@
 // Measures the error of families against MPFR.
 //
 //   accuracy sinf                          all ranges of sinf: every float, or a million random operands
-//   accuracy --all --jobs 2                every family that stands
+//   accuracy --group trig --jobs 2         every family of a group that stands; --all: every family
 //   accuracy expf --range main --exhaustive
 //   accuracy sinf --neighbour 1e20 --width 8
+//   accuracy --group trig --pictures docs/pictures --random 0
 //
 //   --range NAME       that range alone
-//   --random N         N random operands for each range, and the neighbourhood of the worst
+//   --random N         N random operands for each range, and the neighbourhood of the worst; 0: nothing is measured
 //   --exhaustive       every number of the range (families of one float operand)
 //   --width W          the width to call; 16 by default
 //   --neighbour VALUE  what the last lane of every vector holds
 //   --jobs N           threads
 //   --worst DIR        begin from the worst operands in DIR, and write back the worst found
-//   --markdown FILE    replace the families' rows in the tables of FILE
+//   --markdown FILE    renew the families' rows in the tables of FILE, a table for each group; other rows stay
 //   --picture DIR      draw accuracy-<family>.svg: the error over the operand, range by range (gnuplot)
+//   --pictures DIR     draw accuracy-<group>.svg for the families' groups: the first range of each family in them
 //
 // Prints for each range the largest error, the operands and the result there. Every figure is MPFR's; a fixed seed
 // makes a run repeatable. Fails where a bound of the grid does not hold.
@@ -36,8 +38,8 @@ using accuracy::Range;
 
 struct Arguments {
     std::vector<const grid::Family*> families;
-    std::string range, worst, markdown, picture;
-    uint64_t random = 0;
+    std::string range, worst, markdown, picture, group_pictures;
+    std::optional<uint64_t> random;
     bool exhaustive = false;
     std::optional<double> neighbour;
     accuracy::Options options;
@@ -59,6 +61,13 @@ Arguments parse(int count, char** words) {
         if (word == "--all") {
             for (const grid::Family& family : grid::families())
                 if (accuracy::has_reference(family)) arguments.families.push_back(&family);
+        } else if (word == "--group") {
+            std::string folder = value();
+            size_t before = arguments.families.size();
+            for (const grid::Family& family : grid::families())
+                if (accuracy::group_of(family).folder == folder && accuracy::has_reference(family))
+                    arguments.families.push_back(&family);
+            if (arguments.families.size() == before) stop("nothing to measure in group " + folder);
         } else if (word == "--range") {
             arguments.range = value();
         } else if (word == "--random") {
@@ -76,6 +85,8 @@ Arguments parse(int count, char** words) {
             arguments.worst = value();
         } else if (word == "--markdown") {
             arguments.markdown = value();
+        } else if (word == "--pictures") {
+            arguments.group_pictures = value();
         } else if (word == "--picture") {
             arguments.picture = value();
         } else {
@@ -85,7 +96,7 @@ Arguments parse(int count, char** words) {
             arguments.families.push_back(family);
         }
     }
-    if (arguments.families.empty()) stop("which families? name them, or --all");
+    if (arguments.families.empty()) stop("which families? name them, or --group, or --all");
     return arguments;
 }
 
@@ -109,8 +120,8 @@ std::vector<Measured> measure(const grid::Family& family, const Arguments& argum
             if (place.range == range.name) options.start = place;
         bool possible = accuracy::can_be_exhaustive(family);
         if (arguments.exhaustive && !possible) stop(family.name + " has too many operands to try them all");
-        bool exhaustive = arguments.exhaustive || (possible && !range.sampled && arguments.random == 0);
-        uint64_t count = arguments.random ? arguments.random : 1 << 20;
+        bool exhaustive = arguments.exhaustive || (possible && !range.sampled && !arguments.random);
+        uint64_t count = arguments.random.value_or(1 << 20);
         list.push_back({range,
                         exhaustive ? accuracy::sweep_exhaustive(family, range, options)
                                    : accuracy::sweep_random(family, range, count, true, options),
@@ -151,14 +162,14 @@ std::string result_text(const grid::Family& family, const Finding& worst) {
 
 void print(const grid::Family& family, const Measured& row) {
     std::printf("%-18s %-22s %12llu %-10s max %-11s at %s = %s, width %d lane %d\n", family.name.c_str(),
-                row.range.name.c_str(), static_cast<unsigned long long>(row.worst.tried),
+                std::string(row.range.name).c_str(), static_cast<unsigned long long>(row.worst.tried),
                 row.exhaustive ? "(all)" : "(random)", ulps(row.worst.error).c_str(),
                 operands_text(family, row.worst).c_str(), result_text(family, row.worst).c_str(), row.worst.place.width,
                 row.worst.place.lane);
     std::fflush(stdout);
 }
 
-// ---- Tables: | family | bound | range | operands | tried | largest error | at | result |. -----------------------
+// ---- Tables: | family | range | operands | tried | largest error | bound | at | result |. -----------------------
 
 std::string interval_text(const accuracy::Interval& interval, grid::Lane lane) {
     double limit = lane == grid::Lane::f32 ? accuracy::largest_float : accuracy::largest_double;
@@ -182,9 +193,16 @@ std::string markdown_row(const grid::Family& family, const Measured& row, const 
     std::string operands;
     for (size_t i = 0; i < family.operands.size(); ++i)
         operands += (i ? "; " : "") + interval_text(row.range.operand(i), family.operands[i]);
+    auto tied = [&](const char* what, const std::optional<accuracy::Interval>& interval) {
+        if (interval)
+            operands += std::string("; ") + what + " " + number(interval->low) + " to " + number(interval->high);
+    };
+    tied("y log2 x", row.range.y_times_log_x);
+    tied("y + log2 x", row.range.y_plus_log_x);
+    tied("y/x", row.range.y_over_x);
     if (row.range.beside) operands += ", beside " + number(*row.range.beside);
     if (row.range.width) operands += ", width " + std::to_string(row.range.width);
-    std::string name = row.range.name;
+    std::string name(row.range.name);
     std::ranges::replace(name, '_', ' ');
     std::string where = " |  |";  // an exact result has no worst operand
     if (row.worst.error > 0)
@@ -195,41 +213,48 @@ std::string markdown_row(const grid::Family& family, const Measured& row, const 
            ulps(row.worst.error) + " | " + number(accuracy::bound_of(family, row.range)) + " |" + where;
 }
 
-// The name; a link to the picture where there is one, drawn now or earlier.
-std::string name_cell(const Arguments& arguments, const grid::Family& family) {
-    std::string directory = arguments.markdown.substr(0, arguments.markdown.rfind('/') + 1);
-    std::string picture = "pictures/accuracy-" + family.name + ".svg", quoted = "`" + family.name + "`";
-    bool drawn = !arguments.picture.empty() || std::ifstream(directory + picture).good();
-    return drawn ? "[" + quoted + "](" + picture + ")" : quoted;
-}
+// The file keeps its text up to the line that begins with the marker; what follows is written anew: a table for each
+// group, with the rows of the families that were not measured as they were. Rows belong to the family that their first
+// cell names, or to the one above where that is empty.
+constexpr const char* marker = "<!-- measured";
 
-// The file keeps its text; its table keeps the rows of the families that were not measured. Rows stand in the grid's
-// order, and belong to the family that their first cell names, or to the one above where that is empty.
 void update_markdown(const std::string& path, const std::map<std::string, std::vector<std::string>>& measured) {
-    std::vector<std::string> before, after;
+    std::vector<std::string> before;
     std::map<std::string, std::vector<std::string>> rows;
     std::ifstream old(path);
     std::string family;
-    bool in_table = false, behind = false;
+    bool in_tables = false;
     for (std::string line; std::getline(old, line);) {
-        if (line.starts_with("|---"))
-            in_table = true, before.push_back(line);
-        else if (in_table && !behind && line.starts_with("|")) {
-            size_t first = line.find('`'), last = line.find('`', first + 1);
-            if (first < line.find('|', 1)) family = line.substr(first + 1, last - first - 1);
-            rows[family].push_back(line);
-        } else if (in_table)
-            behind = true, after.push_back(line);
-        else
-            before.push_back(line);
+        if (!in_tables) before.push_back(line);
+        in_tables |= line.starts_with(marker);
+        if (!in_tables || !line.starts_with("| ")) continue;
+        if (line.starts_with("| `"))
+            family = line.substr(3, line.find('`', 3) - 3);
+        else if (!line.starts_with("|  |"))
+            continue;  // a table's head
+        rows[family].push_back(line);
     }
-    if (!in_table) stop(path + " has no table to fill");
+    if (!in_tables) stop(path + " has no line \"" + marker + "\" to write behind");
     for (const auto& [name, lines] : measured) rows[name] = lines;
     std::ofstream file(path);
     for (const std::string& line : before) file << line << '\n';
-    for (const grid::Family& each : grid::families())
-        for (const std::string& line : rows[each.name]) file << line << '\n';
-    for (const std::string& line : after) file << line << '\n';
+    std::string pictures = path.substr(0, path.rfind('/') + 1);
+    for (const accuracy::Group& group : accuracy::groups()) {
+        bool begun = false;
+        for (const grid::Family& each : grid::families()) {
+            if (accuracy::group_of(each).folder != group.folder || rows[each.name].empty()) continue;
+            if (!begun) {
+                std::string picture = "pictures/accuracy-" + std::string(group.folder) + ".svg";
+                file << "\n## " << group.title << "\n\n";
+                if (std::ifstream(pictures + picture).good())
+                    file << "![The largest errors over the operand, family by family](" << picture << ")\n\n";
+                file << "| Family | Range | Operands | Tried | Largest error, ulp | Bound | At | Result |\n"
+                     << "|---|---|---|---|---|---|---|---|\n";
+                begun = true;
+            }
+            for (const std::string& line : rows[each.name]) file << line << '\n';
+        }
+    }
 }
 
 // ---- Pictures: the largest error in each of some hundred intervals of the first operand. -----------------------
@@ -237,13 +262,17 @@ void update_markdown(const std::string& path, const std::map<std::string, std::v
 // The horizontal axis: the operand itself, its binary logarithm, or, over a wide range with both signs, the logarithm
 // grown from zero to both sides.
 struct Profile {
-    static constexpr int bins = 160;
+    int bins;
     enum class Axis { linear, logarithmic, two_sided } axis;
     double low, high, smallest;  // `smallest`: the logarithm of the smallest subnormal
-    std::vector<double> largest = std::vector<double>(bins, -1);
+    std::vector<double> largest;
 
-    Profile(const accuracy::Interval& interval, bool single)
-        : low(interval.low), high(interval.high), smallest(single ? -149 : -1074) {
+    Profile(const accuracy::Interval& interval, bool single, int bins_)
+        : bins(bins_),
+          low(interval.low),
+          high(interval.high),
+          smallest(single ? -149 : -1074),
+          largest(static_cast<size_t>(bins_), -1) {
         double limit = single ? accuracy::largest_float : accuracy::largest_double;
         low = std::max(low, -limit);
         high = std::min(high, limit);
@@ -285,54 +314,107 @@ struct Profile {
     }
 };
 
-void draw(const grid::Family& family, const std::vector<Measured>& rows, const std::string& directory) {
+// One panel: a sample of the range, and its bound dashed.
+void draw_panel(std::FILE* plot, const grid::Family& family, const Range& range, const std::string& title,
+                bool is_small) {
+    int bins = is_small ? 80 : 160;
+    uint64_t sample = is_small ? 50000 : 200000;
+    Profile profile(range.x, family.operands[0] == grid::Lane::f32, bins);
+    accuracy::Options options;
+    options.width = range.beside ? 4 : 16;
+    options.watch = [&](double x, double error) { profile.add(x, error); };
+    accuracy::sweep_random(family, range, sample, false, options);
+    double a = profile.scaled(profile.low), b = profile.scaled(profile.high), bound = bound_of(family, range);
+    std::fprintf(plot, "set title '%s' noenhanced\n%s\n", title.c_str(), profile.tics().c_str());
+    std::fprintf(plot, "set xrange [%.9g:%.9g]\nset yrange [0:%.9g]\n", std::min(a, b), std::max(a, b),
+                 std::max(1.05 * bound, 0.01));
+    std::fprintf(plot, "set xlabel '%s' offset 0,0.7\n", profile.label().c_str());
+    if (is_small) {  // the ends and the bound alone
+        if (profile.axis != Profile::Axis::two_sided)
+            std::fprintf(plot, "set xtics ('%.3g' %.9g, '%.3g' %.9g, '%.3g' %.9g)\n", a, a, (a + b) / 2, (a + b) / 2, b,
+                         b);
+        std::fprintf(plot, "set ytics ('0' 0, '%.4g' %.9g)\n", bound, bound);
+    }
+    std::fprintf(plot, "plot '-' with lines lw 1.2 lc rgb '#1f5fa8', %.9g with lines dt 2 lc rgb '#b03030'\n", bound);
+    for (int bin = 0; bin < bins; ++bin)
+        if (double error = profile.largest[static_cast<size_t>(bin)]; error >= 0)
+            std::fprintf(plot, "%.4g %.3g\n", profile.middle(bin), error);
+    std::fprintf(plot, "e\n");
+}
+
+std::FILE* open_plot() {
     std::FILE* plot = popen("gnuplot", "w");
     if (!plot) stop("the pictures need gnuplot (Debian: apt-get install gnuplot-nox)");
-    int columns = rows.size() > 1 ? 2 : 1, lines = (static_cast<int>(rows.size()) + columns - 1) / columns;
+    return plot;
+}
+void close_plot(std::FILE* plot, const std::string& of) {
+    if (pclose(plot) != 0) stop("gnuplot failed on " + of);
+}
+constexpr const char* legend = "largest error in ulp of random operands in each of many intervals; dashed: the bound";
+
+void draw(const grid::Family& family, const std::string& directory) {
+    std::vector<Range> ranges = accuracy::ranges_of(family);
+    std::FILE* plot = open_plot();
+    int columns = ranges.size() > 1 ? 2 : 1, lines = (static_cast<int>(ranges.size()) + columns - 1) / columns;
     std::fprintf(plot,
                  "set terminal svg size %d,%d font 'sans,11' background 'white'\nset output '%s/accuracy-%s.svg'\n",
                  460 * columns, 260 * lines + 30, directory.c_str(), family.name.c_str());
-    std::fprintf(plot, "set multiplot layout %d,%d title '%s' noenhanced\n", lines, columns, family.name.c_str());
-    std::fprintf(plot, "set grid\nset key off\nset format x '%%g'\n");
-    for (const Measured& row : rows) {
-        bool single = family.operands[0] == grid::Lane::f32;
-        Profile profile(row.range.x, single);
-        accuracy::Options options;
-        options.width = row.range.beside ? 4 : 16;
-        options.watch = [&](double x, double error) { profile.add(x, error); };
-        accuracy::sweep_random(family, row.range, 200000, false, options);
-        std::string name = row.range.name;
+    std::fprintf(plot, "set multiplot layout %d,%d title '%s: %s' noenhanced\nset grid\nset key off\n", lines, columns,
+                 family.name.c_str(), legend);
+    for (const Range& range : ranges) {
+        std::string name(range.name);
         std::ranges::replace(name, '_', ' ');
-        std::fprintf(plot, "set title '%s'\nset xlabel '%s'\nset ylabel 'largest error, ulp'\n%s\n", name.c_str(),
-                     profile.label().c_str(), profile.tics().c_str());
-        double a = profile.scaled(profile.low), b = profile.scaled(profile.high);
-        std::fprintf(plot, "set xrange [%.9g:%.9g]\nset yrange [0:%.9g]\n", std::min(a, b), std::max(a, b),
-                     std::max(1.05 * accuracy::bound_of(family, row.range), 0.01));
-        std::fprintf(plot, "plot '-' with lines lw 1.2 lc rgb '#1f5fa8', %.9g with lines dt 2 lc rgb '#b03030'\n",
-                     accuracy::bound_of(family, row.range));
-        for (int bin = 0; bin < Profile::bins; ++bin)
-            if (double error = profile.largest[static_cast<size_t>(bin)]; error >= 0)
-                std::fprintf(plot, "%.6g %.4g\n", profile.middle(bin), error);
-        std::fprintf(plot, "e\n");
+        draw_panel(plot, family, range, name, false);
     }
-    if (pclose(plot) != 0) stop("gnuplot failed on " + family.name);
+    close_plot(plot, family.name);
+}
+
+// Small multiples: each family of the group that has an error to show, on its first range.
+void draw_group(const accuracy::Group& group, const std::string& directory) {
+    std::vector<const grid::Family*> families;
+    for (const grid::Family& family : grid::families())
+        if (accuracy::group_of(family).folder == group.folder && accuracy::has_reference(family) &&
+            family.bound > 0.5 && std::isfinite(family.bound) && family.signature != "pair_result")
+            families.push_back(&family);
+    if (families.empty()) return;
+    int count = static_cast<int>(families.size());
+    int columns = std::clamp(static_cast<int>(std::ceil(std::sqrt(1.5 * count))), 2, 7);
+    int lines = (count + columns - 1) / columns;
+    std::FILE* plot = open_plot();
+    std::fprintf(
+        plot, "set terminal svg size %d,%d font 'sans,9' background 'white'\nset output '%s/accuracy-%.*s.svg'\n",
+        200 * columns, 150 * lines + 40, directory.c_str(), static_cast<int>(group.folder.size()), group.folder.data());
+    std::fprintf(plot, "set multiplot layout %d,%d title \"%.*s\\n%s\" noenhanced\n", lines, columns,
+                 static_cast<int>(group.title.size()), group.title.data(), legend);
+    std::fprintf(plot, "set key off\nset tics scale 0.5\nset lmargin 7\nset rmargin 2\n");
+    for (const grid::Family* family : families)
+        draw_panel(plot, *family, accuracy::ranges_of(*family)[0], family->name, true);
+    close_plot(plot, std::string(group.folder));
 }
 
 }  // namespace
 
 int main(int count, char** words) {
     Arguments arguments = parse(count, words);
+    if (!arguments.group_pictures.empty())
+        for (const accuracy::Group& group : accuracy::groups())
+            if (std::ranges::any_of(arguments.families, [&](const grid::Family* family) {
+                    return accuracy::group_of(*family).folder == group.folder;
+                }))
+                draw_group(group, arguments.group_pictures);
     std::map<std::string, std::vector<std::string>> table;
+    if (!arguments.markdown.empty()) update_markdown(arguments.markdown, table);  // fails now rather than in an hour
     bool all_hold = true;
     for (const grid::Family* family : arguments.families) {
+        if (!arguments.picture.empty()) draw(*family, arguments.picture);
+        if (arguments.random == 0) continue;
         std::vector<Measured> rows = measure(*family, arguments);
-        if (!arguments.picture.empty()) draw(*family, rows, arguments.picture);
         std::vector<Finding> findings;
         for (const Measured& row : rows) {
             print(*family, row);
             findings.push_back(row.worst);
             table[family->name].push_back(
-                markdown_row(*family, row, &row == rows.data() ? name_cell(arguments, *family) : ""));
+                markdown_row(*family, row, &row == rows.data() ? "`" + family->name + "`" : ""));
             double bound = accuracy::bound_of(*family, row.range);
             if (row.worst.error <= bound) continue;
             std::printf("  above the bound of %g ulp\n", bound);

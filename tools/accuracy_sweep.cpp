@@ -13,12 +13,14 @@
 #include <sstream>
 #include <thread>
 
+#include "tools/interpolant.h"
+
 namespace accuracy {
 namespace {
 
 using grid::Lane;
 
-constexpr size_t max_operands = 3, max_results = 2;
+constexpr size_t max_operands = Operands::most, max_results = 2;
 
 // Copies of a constant size: this is the sweep's inner loop.
 uint64_t read_lane(const unsigned char* lanes, Lane lane, size_t i) {
@@ -38,101 +40,31 @@ void write_lane(unsigned char* lanes, Lane lane, size_t i, uint64_t bits) {
         std::memcpy(lanes + 4 * i, &bits, 4);
 }
 
-uint64_t pattern_of(Lane lane, double value) {
-    if (lane == Lane::f64) return __builtin_bit_cast(uint64_t, value);
-    if (lane == Lane::f32) return __builtin_bit_cast(uint32_t, static_cast<float>(value));
-    return static_cast<uint32_t>(static_cast<int32_t>(value));
-}
-
-// ---- A lane's numbers in their order, as integers: -0 is -1, +0 is 0, the smallest subnormal 1. --------------
-
-int64_t order_of(Lane lane, uint64_t bits) {
-    if (lane == Lane::i32) return static_cast<int32_t>(bits);
-    uint64_t sign = lane == Lane::f32 ? uint64_t{1} << 31 : uint64_t{1} << 63;
-    return bits & sign ? -1 - static_cast<int64_t>(bits & ~sign) : static_cast<int64_t>(bits);
-}
-uint64_t from_order(Lane lane, int64_t order) {
-    if (lane == Lane::i32) return static_cast<uint32_t>(order);
-    uint64_t sign = lane == Lane::f32 ? uint64_t{1} << 31 : uint64_t{1} << 63;
-    return order < 0 ? static_cast<uint64_t>(-1 - order) | sign : static_cast<uint64_t>(order);
-}
-
-// An interval on a lane's numbers.
-struct Span {
-    Lane lane;
-    double low, high;
-    int64_t first, last;
-
-    Span(Lane lane_, const Interval& interval) : lane(lane_) {
-        double limit = lane == Lane::f32 ? largest_float : lane == Lane::i32 ? 0x1p31 - 1 : largest_double;
-        low = std::max(interval.low, -limit);
-        high = std::min(interval.high, limit);
-        if (lane == Lane::i32) low = std::ceil(low), high = std::floor(high);
-        first = order_of(lane, pattern_of(lane, low));
-        last = order_of(lane, pattern_of(lane, high));
-        if (lane == Lane::f32 && static_cast<double>(reference::lane_value(lane, from_order(lane, first))) < low)
-            ++first;
-        if (lane == Lane::f32 && static_cast<double>(reference::lane_value(lane, from_order(lane, last))) > high)
-            --last;
-    }
-    uint64_t count() const { return static_cast<uint64_t>(last) - static_cast<uint64_t>(first) + 1; }
-};
-
-// ---- Random operands. ----------------------------------------------------------------------------------------
-
-class Random {
-  public:
-    explicit Random(uint64_t seed) : state_(seed * 0x9e3779b97f4a7c15) {}
-    uint64_t next() {  // splitmix64
-        state_ += 0x9e3779b97f4a7c15;
-        uint64_t z = state_;
-        z = (z ^ (z >> 30)) * 0xbf58476d1ce4e5b9;
-        z = (z ^ (z >> 27)) * 0x94d049bb133111eb;
-        return z ^ (z >> 31);
-    }
-    uint64_t below(uint64_t n) { return n == 0 ? next() : next() % n; }  // 0 stands for 2^64
-    double unit() { return static_cast<double>(next() >> 11) * 0x1p-53; }
-
-  private:
-    uint64_t state_;
-};
-
-uint64_t draw(const Span& span, Random& random) {
-    uint64_t way = random.below(16);
-    if (way == 0) {  // close to an end
-        uint64_t step = random.below(std::min<uint64_t>(span.count(), 256));
-        return from_order(span.lane, random.next() & 1 ? span.first + static_cast<int64_t>(step)
-                                                       : span.last - static_cast<int64_t>(step));
-    }
-    if (way < 9)  // evenly over the numbers: over the exponents
-        return from_order(span.lane,
-                          static_cast<int64_t>(static_cast<uint64_t>(span.first) + random.below(span.count())));
-    double u = random.unit();  // evenly over the values
-    uint64_t bits = pattern_of(span.lane, span.low * (1 - u) + span.high * u);
-    return from_order(span.lane, std::clamp(order_of(span.lane, bits), span.first, span.last));
-}
-
 // ---- One vector: its operands, its call, its judgement. ------------------------------------------------------
 
 class Bench {
   public:
     Bench(const grid::Family& family, const Range& range, int width)
-        : family_(family), operation_(*reference::find(family.base)), range_(range), width_(width) {
-        for (size_t i = 0; i < family.operands.size(); ++i) spans_.emplace_back(family.operands[i], range.operand(i));
+        : family_(family),
+          operation_(*reference::find(family.base)),
+          range_(range),
+          width_(width),
+          draws_(family, range) {
         floating_lane_ = family.is_single ? Lane::f32 : Lane::f64;
         if (range.beside) {
-            for (size_t i = 0; i < spans_.size(); ++i) set(i, lanes(), pattern_of(spans_[i].lane, *range.beside));
+            for (size_t i = 0; i < spans().size(); ++i) set(i, lanes(), pattern_of(spans()[i].lane, *range.beside));
         }
     }
 
     // How many lanes are the sweep's own.
     size_t lanes() const { return static_cast<size_t>(width_) - (range_.beside ? 1 : 0); }
-    const std::vector<Span>& spans() const { return spans_; }
+    const Operands& draws() const { return draws_; }
+    const std::vector<Span>& spans() const { return draws_.spans(); }
     void set(size_t operand, size_t lane, uint64_t bits) {
-        write_lane(operands_[operand], spans_[operand].lane, lane, bits);
+        write_lane(operands_[operand], spans()[operand].lane, lane, bits);
     }
     uint64_t get(size_t operand, size_t lane) const {
-        return read_lane(operands_[operand], spans_[operand].lane, lane);
+        return read_lane(operands_[operand], spans()[operand].lane, lane);
     }
 
     void call() {
@@ -153,7 +85,7 @@ class Bench {
                 exact_needed |= screened[r] > worst.error - margin && (screened[r] > 0 || worst.error < 0);
             if (exact_needed) judge_exactly(lane, screened, worst);
             if (watch)
-                watch(static_cast<double>(reference::lane_value(spans_[0].lane, get(0, lane))),
+                watch(static_cast<double>(reference::lane_value(spans()[0].lane, get(0, lane))),
                       *std::max_element(screened, screened + results));
         }
         worst.tried += lanes();
@@ -161,7 +93,7 @@ class Bench {
 
     // The one lane, by MPFR alone.
     void judge_exactly(size_t lane, double* screened, Finding& worst) {
-        for (size_t i = 0; i < spans_.size(); ++i) exact_operands_[i].set(spans_[i].lane, get(i, lane));
+        for (size_t i = 0; i < spans().size(); ++i) exact_operands_[i].set(spans()[i].lane, get(i, lane));
         operation_.exact(floating_lane_, exact_operands_, exact_results_);
         for (size_t r = 0; r < static_cast<size_t>(operation_.results); ++r) {
             double error = reference::ulp_distance(family_.results[r], result(r, lane), exact_results_[r]);
@@ -177,28 +109,58 @@ class Bench {
     }
 
     Place place(size_t lane) const {
-        Place place = {range_.name, width_, static_cast<int>(lane), {}};
-        for (size_t i = 0; i < spans_.size(); ++i) {
+        Place place = {std::string(range_.name), width_, static_cast<int>(lane), {}};
+        for (size_t i = 0; i < spans().size(); ++i) {
             place.operands.emplace_back();
             for (size_t l = 0; l < static_cast<size_t>(width_); ++l) place.operands[i].push_back(get(i, l));
         }
         return place;
     }
     void set(const Place& place) {
-        for (size_t i = 0; i < spans_.size(); ++i)
+        for (size_t i = 0; i < spans().size(); ++i)
             for (size_t l = 0; l < place.operands[i].size(); ++l) set(i, l, place.operands[i][l]);
+    }
+    // The one operand's lanes: consecutive numbers from `first` on, the last one repeated behind `last`.
+    void set_consecutive(int64_t first, int64_t last) {
+        uint32_t patterns[16];
+        auto at = static_cast<int32_t>(first), end = static_cast<int32_t>(last);
+        for (int32_t lane = 0; lane < 16; ++lane) {
+            int32_t order = std::min(at, end);
+            patterns[lane] = static_cast<uint32_t>(order ^ ((order >> 31) & 0x7fffffff));
+            at += at < end;
+        }
+        std::memcpy(operands_[0], patterns, 4 * lanes());
+    }
+    // A bound of each error of the last call by the interpolants; whether all are below `limit`.
+    bool all_below(double limit, const Interpolant& operation) {
+        unsigned below = 0;
+        size_t results = static_cast<size_t>(operation_.results);
+        for (size_t r = 0; r < results; ++r) {
+            float x[16], computed[16];
+            std::memcpy(x, operands_[0], sizeof x);
+            std::memcpy(computed, results_[r], sizeof computed);
+            operation.bounds(r, x, computed, bounds_[r]);
+            for (size_t lane = 0; lane < lanes(); ++lane) below += bounds_[r][lane] < limit;  // not where it is a NaN
+        }
+        return below == lanes() * results;
+    }
+    // After a judgement of every lane: whether the bounds were.
+    void check_bounds() {
+        for (size_t lane = 0; lane < lanes(); ++lane)
+            for (size_t r = 0; r < static_cast<size_t>(operation_.results); ++r)
+                if (bounds_[r][lane] < screened_[lane][r]) fail(lane, screened_[lane][r]);
     }
     uint64_t result(size_t r, size_t lane) const { return read_lane(results_[r], family_.results[r], lane); }
 
   private:
     // The distances of all lanes from the screen's values.
     void screen() {
-        bool one_float = spans_.size() == 1 && operation_.results == 1 && spans_[0].lane == Lane::f32 &&
+        bool one_float = spans().size() == 1 && operation_.results == 1 && spans()[0].lane == Lane::f32 &&
                          family_.results[0] == Lane::f32;
         if (one_float) return screen_floats();
         for (size_t lane = 0; lane < lanes(); ++lane) {
             long double x[max_operands], exact[max_results];
-            for (size_t i = 0; i < spans_.size(); ++i) x[i] = reference::lane_value(spans_[i].lane, get(i, lane));
+            for (size_t i = 0; i < spans().size(); ++i) x[i] = reference::lane_value(spans()[i].lane, get(i, lane));
             operation_.screen(x, exact);
             for (size_t r = 0; r < static_cast<size_t>(operation_.results); ++r)
                 screened_[lane][r] = reference::ulp_distance(family_.results[r], result(r, lane), exact[r]);
@@ -223,14 +185,14 @@ class Bench {
 
     alignas(64) unsigned char operands_[max_operands][128] = {};
     alignas(64) unsigned char results_[max_results][128] = {};
-    double screened_[16][max_results] = {};
+    double screened_[16][max_results] = {}, bounds_[max_results][16] = {};
     reference::Real exact_operands_[max_operands], exact_results_[max_results];
     const grid::Family& family_;
     const reference::Operation& operation_;
     const Range& range_;
     int width_;
     Lane floating_lane_;
-    std::vector<Span> spans_;
+    Operands draws_;
 };
 
 // ---- Sweeps. -------------------------------------------------------------------------------------------------
@@ -282,14 +244,6 @@ Finding simplest(const grid::Family& family, const Range& range, Finding worst) 
     return finding.value == worst.value && finding.error == worst.error ? finding : worst;
 }
 
-// A number of the span near this one.
-uint64_t mutate(const Span& span, uint64_t bits, Random& random) {
-    uint64_t distances = span.count() >> random.below(std::bit_width(span.count()));
-    uint64_t reach = random.below(distances) + 1;
-    uint64_t moved = static_cast<uint64_t>(order_of(span.lane, bits)) + (random.next() & 1 ? reach : -reach);
-    return from_order(span.lane, std::clamp(static_cast<int64_t>(moved), span.first, span.last));
-}
-
 void climb_from(Finding& worst, const grid::Family& family, const Range& range, uint64_t count, Random& random) {
     int width = worst.place.width;
     Bench bench(family, range, width);
@@ -301,10 +255,11 @@ void climb_from(Finding& worst, const grid::Family& family, const Range& range, 
         size_t moving = random.below(bench.lanes());
         for (size_t lane = 0; lane < bench.lanes(); ++lane) {
             if (one && lane != moving) continue;
-            for (size_t i = 0; i < bench.spans().size(); ++i) {
-                uint64_t from = one ? bench.get(i, lane) : worst.place.operands[i][bad];
-                bench.set(i, lane, random.next() % 3 ? mutate(bench.spans()[i], from, random) : from);
-            }
+            uint64_t patterns[max_operands];
+            for (size_t i = 0; i < bench.spans().size(); ++i)
+                patterns[i] = one ? bench.get(i, lane) : worst.place.operands[i][bad];
+            bench.draws().move(random, patterns);
+            for (size_t i = 0; i < bench.spans().size(); ++i) bench.set(i, lane, patterns[i]);
         }
         bench.call();
         bench.judge(worst, {}, false);
@@ -313,24 +268,7 @@ void climb_from(Finding& worst, const grid::Family& family, const Range& range, 
 
 }  // namespace
 
-double bound_of(const grid::Family& family, const Range& range) {
-    return range.bound >= 0 ? range.bound : family.bound;
-}
 bool has_reference(const grid::Family& family) { return reference::find(family.base) != nullptr; }
-
-std::vector<Range> ranges_of(const grid::Family& family) {
-    [[maybe_unused]] constexpr auto f = [](uint32_t bits) { return double{__builtin_bit_cast(float, bits)}; };
-    [[maybe_unused]] constexpr auto d = [](uint64_t bits) { return __builtin_bit_cast(double, bits); };
-    std::vector<Range> list;
-#define RANGE(family_, name_, ...) \
-    if (family.name == #family_) list.push_back({.family = #family_, .name = #name_, __VA_ARGS__});
-#include "tools/accuracy_ranges.def"
-#define RANGE(family_, name_, ...) \
-    if (family.name == #family_) list.push_back({.family = #family_, .name = #name_, __VA_ARGS__});
-#include "include/operations.def"
-    if (list.empty()) list.push_back({.family = family.name, .name = "all"});
-    return list;
-}
 
 Finding judge(const grid::Family& family, const Place& place) {
     Range range = {.family = family.name, .name = place.range};
@@ -348,15 +286,19 @@ Finding sweep_random(const grid::Family& family, const Range& range, uint64_t co
                      const Options& options) {
     int width = width_for(range, options);
     uint64_t seed = options.seed;
-    for (char letter : family.name + "/" + range.name) seed = seed * 31 + static_cast<unsigned char>(letter);
+    for (char letter : family.name + "/" + std::string(range.name))
+        seed = seed * 31 + static_cast<unsigned char>(letter);
     constexpr uint64_t pieces = 16;
     auto sweep = [&](uint64_t piece, Finding& worst) {
         Bench bench(family, range, width);
         Random random(seed + piece);
         uint64_t vectors = count / pieces / bench.lanes() + 1;
         for (uint64_t v = 0; v < vectors; ++v) {
-            for (size_t lane = 0; lane < bench.lanes(); ++lane)
-                for (size_t i = 0; i < bench.spans().size(); ++i) bench.set(i, lane, draw(bench.spans()[i], random));
+            for (size_t lane = 0; lane < bench.lanes(); ++lane) {
+                uint64_t patterns[max_operands];
+                bench.draws().draw(random, patterns);
+                for (size_t i = 0; i < bench.spans().size(); ++i) bench.set(i, lane, patterns[i]);
+            }
             bench.call();
             bench.judge(worst, options.watch, v % 64 == 0);
         }
@@ -373,6 +315,59 @@ bool can_be_exhaustive(const grid::Family& family) {
     return family.operands.size() == 1 && family.operands[0] == Lane::f32 && reference::find(family.base)->screen;
 }
 
+namespace {
+
+// Consecutive numbers of the one operand.
+class Stretch {
+  public:
+    Stretch(const grid::Family& family, const Range& range, int width, const Watcher& watch)
+        : bench_(family, range, width), operation_(*reference::find(family.base)), watch_(watch) {
+        smooth_ = !watch && family.bound > 0 &&
+                  std::ranges::all_of(family.results, [](Lane lane) { return lane == Lane::f32; });
+    }
+
+    // Where the operation is not smooth over 4,096 numbers it may be over 256.
+    void sweep(int64_t first, int64_t last, Finding& worst) {
+        each(first, last, 1 << 12, [&](int64_t from, int64_t to) {
+            if (fits(from, to)) return go(from, to, worst, &interpolant_);
+            each(from, to, 1 << 8, [&](int64_t begin, int64_t end) {
+                go(begin, end, worst, fits(begin, end) ? &interpolant_ : nullptr);
+            });
+        });
+    }
+
+  private:
+    template <class Part>
+    static void each(int64_t first, int64_t last, int64_t size, const Part& part) {
+        for (int64_t at = first; at <= last; at += size) part(at, std::min(at + size - 1, last));
+    }
+    bool fits(int64_t first, int64_t last) {
+        return smooth_ && interpolant_.fit(operation_, number(first), number(last));
+    }
+    static double number(int64_t order) {
+        return static_cast<double>(reference::lane_value(Lane::f32, from_order(Lane::f32, order)));
+    }
+    void go(int64_t first, int64_t last, Finding& worst, const Interpolant* bounds) {
+        for (int64_t at = first; at <= last; at += static_cast<int64_t>(bench_.lanes())) {
+            bench_.set_consecutive(at, last);
+            bench_.call();
+            bool check = vectors_++ % 8192 == 0;
+            if (bounds && bench_.all_below(worst.error, *bounds) && !check) continue;
+            bench_.judge(worst, watch_, check);
+            if (bounds && check) bench_.check_bounds();
+        }
+    }
+
+    Bench bench_;
+    const reference::Operation& operation_;
+    const Watcher& watch_;
+    Interpolant interpolant_;
+    bool smooth_;
+    uint64_t vectors_ = 0;
+};
+
+}  // namespace
+
 Finding sweep_exhaustive(const grid::Family& family, const Range& range, const Options& options) {
     int width = width_for(range, options);
     Span span(family.operands[0], range.x);
@@ -384,17 +379,11 @@ Finding sweep_exhaustive(const grid::Family& family, const Range& range, const O
     constexpr int64_t piece_size = 1 << 20;
     uint64_t pieces = (span.count() + piece_size - 1) / piece_size;
     auto sweep = [&](uint64_t piece, Finding& worst) {
-        Bench bench(family, range, width);
         int64_t first = span.first + static_cast<int64_t>(piece) * piece_size;
         int64_t last = std::min(first + piece_size - 1, span.last);
         uint64_t before = worst.tried;
-        uint64_t vector = 0;
-        for (int64_t at = first; at <= last; at += static_cast<int64_t>(bench.lanes())) {
-            for (size_t lane = 0; lane < bench.lanes(); ++lane)  // the last vector repeats its last number
-                bench.set(0, lane, from_order(span.lane, std::min(at + static_cast<int64_t>(lane), last)));
-            bench.call();
-            bench.judge(worst, options.watch, vector++ % 8192 == 0);
-        }
+        Stretch stretch(family, range, width, options.watch);
+        stretch.sweep(first, last, worst);
         worst.tried = before + static_cast<uint64_t>(last - first + 1);
     };
     return simplest(family, range, over_pieces(pieces, options, sweep, start));

@@ -1,5 +1,5 @@
-// The search for a family's largest error: over named ranges of operands (tools/accuracy_ranges.def), random or
-// exhaustive, at any width, with or without a control value in the neighbouring lane.
+// The search for a family's largest error: over its ranges of operands (tools/ranges.h), random or exhaustive, at any
+// width, with or without a control value in the neighbouring lane.
 #pragma once
 
 #include <cstdint>
@@ -10,31 +10,11 @@
 #include <vector>
 
 #include "tools/calls.h"
+#include "tools/ranges.h"
 #include "tools/reference.h"
 
 namespace accuracy {
 
-inline constexpr double largest_float = 0x1.fffffep127, largest_double = 0x1.fffffffffffffp1023;
-
-struct Interval {
-    double low = -largest_double, high = largest_double;
-};
-
-// A part of a family's domain. Ends belong to it; in single precision they are rounded inward.
-struct Range {
-    std::string family, name;
-    Interval x = {}, y = {}, z = {};    // of the first, second and third operand
-    std::optional<double> beside = {};  // what the last lane of every vector holds, in every operand
-    int width = 0;                      // the one width that the range is about; 0: every width
-    double bound = -1;                  // where it is tighter than the family's
-    bool sampled = false;               // too slow to try every number of it
-
-    const Interval& operand(size_t i) const { return i == 0 ? x : i == 1 ? y : z; }
-};
-
-// The ranges of a family. One that names none has to hold its bound on every finite operand.
-std::vector<Range> ranges_of(const grid::Family& family);
-double bound_of(const grid::Family& family, const Range& range);
 // Whether the families' operation has a reference.
 bool has_reference(const grid::Family& family);
 
@@ -72,7 +52,8 @@ struct Options {
 // ends. With `climb`, a quarter as many more in the neighbourhood of the worst.
 Finding sweep_random(const grid::Family& family, const Range& range, uint64_t count, bool climb,
                      const Options& options);
-// Every number of the range; for families of one float operand that have a screen.
+// Every number of the range; for families of one float operand that have a screen. Pieces where the operation is
+// smooth are screened by polynomials through its values (tools/interpolant.h), the others number by number.
 bool can_be_exhaustive(const grid::Family& family);
 Finding sweep_exhaustive(const grid::Family& family, const Range& range, const Options& options);
 

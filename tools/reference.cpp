@@ -109,7 +109,13 @@ void exact_powr(Lane, const Real* x, Real* result) {
         mpfr_set_nan(result->get());
     else
         mpfr_pow(result->get(), x[0].get(), x[1].get(), MPFR_RNDN);
-    if (mpfr_zero_p(result->get())) mpfr_abs(result->get(), result->get(), MPFR_RNDN);
+    mpfr_abs(result->get(), result->get(), MPFR_RNDN);  // the base -0 is a zero like the other
+}
+
+void screen_powr(const long double* x, long double* result) {
+    bool undefined = x[0] < 0 || std::isnan(x[0]) || std::isnan(x[1]) || (x[0] == 0 && x[1] == 0) ||
+                     (std::isinf(x[0]) && x[1] == 0) || (x[0] == 1 && std::isinf(x[1]));
+    *result = undefined ? std::numeric_limits<long double>::quiet_NaN() : fabsl(powl(x[0], x[1]));
 }
 
 void exact_rootn(Lane, const Real* x, Real* result) {
@@ -117,6 +123,23 @@ void exact_rootn(Lane, const Real* x, Real* result) {
     unsigned long magnitude = n < 0 ? -static_cast<unsigned long>(n) : static_cast<unsigned long>(n);
     mpfr_rootn_ui(result->get(), x[0].get(), magnitude, MPFR_RNDN);
     if (n < 0) mpfr_ui_div(result->get(), 1, result->get(), MPFR_RNDN);
+}
+
+// The number after x, on the way to y, is the format's.
+void exact_nextafter(Lane lane, const Real* x, Real* result) {
+    double from = x[0].as_double(), to = x[1].as_double();
+    mpfr_set_d(
+        result->get(),
+        lane == Lane::f32 ? double{nextafterf(static_cast<float>(from), static_cast<float>(to))} : nextafter(from, to),
+        MPFR_RNDN);
+}
+
+// The quotient's low 31 bits, under its sign; 0 where there is none.
+void exact_remquo(Lane, const Real* x, Real* results) {
+    long quotient = 0;
+    mpfr_remquo(results[0].get(), &quotient, x[0].get(), x[1].get(), MPFR_RNDN);
+    bool has_quotient = mpfr_number_p(results[0].get()) && mpfr_number_p(x[1].get());
+    mpfr_set_si(results[1].get(), has_quotient ? quotient : 0, MPFR_RNDN);
 }
 
 void exact_frexp(Lane, const Real* x, Real* results) {
@@ -134,10 +157,25 @@ void exact_logb(Lane, const Real* x, Real* result) {
         mpfr_abs(result->get(), x->get(), MPFR_RNDN);
 }
 
+// What has no exponent gives the ends of the integers.
+void exact_ilogb(Lane lane, const Real* x, Real* result) {
+    if (mpfr_regular_p(x->get()))
+        exact_logb(lane, x, result);
+    else
+        mpfr_set_si(result->get(),
+                    mpfr_zero_p(x->get()) ? std::numeric_limits<int32_t>::min() : std::numeric_limits<int32_t>::max(),
+                    MPFR_RNDN);
+}
+
 void exact_lgamma(Lane, const Real* x, Real* results) {
     int sign = 1;
     mpfr_lgamma(results[0].get(), &sign, x->get(), MPFR_RNDN);
     mpfr_set_si(results[1].get(), sign, MPFR_RNDN);
+}
+void screen_lgamma(const long double* x, long double* results) {
+    int sign = 1;
+    results[0] = lgammal_r(*x, &sign);
+    results[1] = sign;
 }
 
 std::vector<Operation> make_operations() {
@@ -181,7 +219,7 @@ std::vector<Operation> make_operations() {
         {"fract", 2, exact_fract, screen_fract},
         {"fmod", 1, exact<mpfr_fmod>, screen<fmodl>},
         {"remainder", 1, exact<mpfr_remainder>, screen<remainderl>},
-        {"remquo", 1, exact<mpfr_remainder>, screen<remainderl>},
+        {"remquo", 2, exact_remquo, nullptr},
         {"frexp", 2, exact_frexp, nullptr},
         {"ldexp", 1,
          [](Lane, const Real* x, Real* r) {
@@ -189,7 +227,8 @@ std::vector<Operation> make_operations() {
          },
          nullptr},
         {"logb", 1, exact_logb, screen<logbl>},
-        {"ilogb", 1, exact_logb, nullptr},
+        {"ilogb", 1, exact_ilogb, nullptr},
+        {"nextafter", 1, exact_nextafter, nullptr},
 
         // Exponentials, logarithms, powers.
         {"exp", 1, exact<mpfr_exp>, screen<expl>},
@@ -201,7 +240,7 @@ std::vector<Operation> make_operations() {
         {"log10", 1, exact<mpfr_log10>, screen<log10l>},
         {"log1p", 1, exact<mpfr_log1p>, screen<log1pl>},
         {"pow", 1, exact<mpfr_pow>, screen<powl>},
-        {"powr", 1, exact_powr, nullptr},
+        {"powr", 1, exact_powr, screen_powr},
         {"pown", 1, exact<mpfr_pow>, screen<powl>},
         {"rootn", 1, exact_rootn, nullptr},
 
@@ -216,7 +255,8 @@ std::vector<Operation> make_operations() {
         {"tan", 1, exact<mpfr_tan>, screen<tanl>},
         {"sinpi", 1, exact<mpfr_sinpi>, screen<sine_of_pi>},
         {"cospi", 1, exact<mpfr_cospi>, screen<cosine_of_pi>},
-        {"tanpi", 1, exact<mpfr_tanpi>, nullptr},
+        {"tanpi", 1, exact<mpfr_tanpi>,
+         [](const long double* x, long double* r) { *r = sine_of_pi(*x) / cosine_of_pi(*x); }},
         {"asin", 1, exact<mpfr_asin>, screen<asinl>},
         {"acos", 1, exact<mpfr_acos>, screen<acosl>},
         {"atan", 1, exact<mpfr_atan>, screen<atanl>},
@@ -238,8 +278,17 @@ std::vector<Operation> make_operations() {
         {"erf", 1, exact<mpfr_erf>, screen<erfl>},
         {"erfc", 1, exact<mpfr_erfc>, screen<erfcl>},
         {"tgamma", 1, exact<mpfr_gamma>, screen<tgammal>},
-        {"lgamma", 1, exact_lgamma, screen<lgammal>},
-        {"lgammar", 2, exact_lgamma, nullptr},
+        {"lgamma", 1,
+         [](Lane lane, const Real* x, Real* r) {
+             Real both[2];
+             exact_lgamma(lane, x, both);
+             mpfr_swap(r->get(), both[0].get());
+         },
+         [](const long double* x, long double* r) {
+             int sign;  // lgammal writes a variable that all threads share
+             *r = lgammal_r(*x, &sign);
+         }},
+        {"lgammar", 2, exact_lgamma, screen_lgamma},
     };
 }
 

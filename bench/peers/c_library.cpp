@@ -1,97 +1,103 @@
 // The C library's scalar functions and the C compiler's scalar operators, one lane at a time. This file is built
 // without vectorisation.
 #include <cmath>
+#include <cstdint>
 
-#include "bench/passes.h"
+#include "bench/peers/worlds.h"
 
-namespace bench {
-namespace {
+namespace bench::c_library {
 
-float sine_and_cosine_float(float x, float* cosine) {
+struct World {
+    template <class Float>
+    using Value = Float;
+    template <class Float>
+    using Integer = int32_t;
+    template <class Float>
+    static Float splat(double value) {
+        return static_cast<Float>(value);
+    }
+    template <class Float>
+    static Float floating(int32_t n) {
+        return static_cast<Float>(n);
+    }
+    static constexpr bool has_operators = true;
+    static constexpr const char* column = "c";
+    static constexpr double bound = 4;
+};
+
+using std::acos, std::acosh, std::asin, std::asinh, std::atan, std::atan2, std::atanh, std::cbrt, std::ceil,
+    std::copysign, std::cos, std::cosh, std::erf, std::erfc, std::exp, std::exp2, std::expm1, std::fabs, std::fdim,
+    std::floor, std::fma, std::fmax, std::fmin, std::fmod, std::hypot, std::ilogb, std::ldexp, std::lgamma, std::log,
+    std::log10, std::log1p, std::log2, std::logb, std::nextafter, std::pow, std::remainder, std::rint, std::round,
+    std::sin, std::sinh, std::sqrt, std::tan, std::tanh, std::tgamma, std::trunc;
+
+inline float exp10(float x) { return ::exp10f(x); }
+inline double exp10(double x) { return ::exp10(x); }
+inline float sincos(float x, float& cosine) {
     float sine;
-    sincosf(x, &sine, cosine);
+    ::sincosf(x, &sine, &cosine);
     return sine;
 }
-double sine_and_cosine(double x, double* cosine) {
+inline double sincos(double x, double& cosine) {
     double sine;
-    sincos(x, &sine, cosine);
+    ::sincos(x, &sine, &cosine);
     return sine;
 }
+template <class Float>
+Float modf(Float x, Float& integral) {
+    return std::modf(x, &integral);
+}
+template <class Float>
+Float frexp(Float x, int32_t& exponent) {
+    return std::frexp(x, &exponent);
+}
+template <class Float>
+Float remquo(Float x, Float y, int32_t& quotient) {
+    return std::remquo(x, y, &quotient);
+}
+inline float lgamma(float x, int32_t& sign) { return ::lgammaf_r(x, &sign); }
+inline double lgamma(double x, int32_t& sign) { return ::lgamma_r(x, &sign); }
 
-// A function of one precision by its expression in x, y, z of type Float.
-#define UNARY(base, bound, of_float, of_double)                                              \
-    add_lane_peer<+[](float x) -> float { return of_float; }>(peers, #base "f", "c", bound); \
-    add_lane_peer<+[](double x) -> double { return of_double; }>(peers, #base, "c", bound);
-#define BINARY(base, bound, of_float, of_double)                                                      \
-    add_lane_peer<+[](float x, float y) -> float { return of_float; }>(peers, #base "f", "c", bound); \
-    add_lane_peer<+[](double x, double y) -> double { return of_double; }>(peers, #base, "c", bound);
-#define TERNARY(base, bound, of_float, of_double)                                                              \
-    add_lane_peer<+[](float x, float y, float z) -> float { return of_float; }>(peers, #base "f", "c", bound); \
-    add_lane_peer<+[](double x, double y, double z) -> double { return of_double; }>(peers, #base, "c", bound);
-#define FUNCTION(base, bound) UNARY(base, bound, base##f(x), base(x))
-#define FUNCTION2(base, bound) BINARY(base, bound, base##f(x, y), base(x, y))
-
-// Conversions; the saturating families take in-range operands here too, so that the bare conversion is their peer.
-#define TO_INTEGER(target, type, rounding, float_expression, double_expression)                \
-    for (const char* saturation : {"sat", "nosat"}) {                                          \
-        add_lane_peer<+[](float x) -> type { return static_cast<type>(float_expression); }>(   \
-            peers, std::string("cvtfpto" #target #rounding) + saturation + "f", "c", 0);       \
-        add_lane_peer<+[](double x) -> type { return static_cast<type>(double_expression); }>( \
-            peers, std::string("cvtfpto" #target #rounding) + saturation, "c", 0);             \
-    }
-#define ALL_TO_INTEGER(target, type)                 \
-    TO_INTEGER(target, type, rtn, rintf(x), rint(x)) \
-    TO_INTEGER(target, type, rtz, x, x)              \
-    TO_INTEGER(target, type, up, ceilf(x), ceil(x))  \
-    TO_INTEGER(target, type, down, floorf(x), floor(x))
-#define FROM_INTEGER(source, type)                                                                           \
-    add_lane_peer<+[](type x) { return static_cast<float>(x); }>(peers, "cvt" #source "tofprtnf", "c", 0.5); \
-    add_lane_peer<+[](type x) { return static_cast<double>(x); }>(peers, "cvt" #source "tofprtn", "c", 0.5);
-
-}  // namespace
-
-void add_c_library(std::vector<Peer>& peers) {
-    UNARY(inv, 0.5, 1 / x, 1 / x)
-    BINARY(div, 0.5, x / y, x / y)
-    FUNCTION(sqrt, 0.5)
-    UNARY(rsqrt, 1.5, 1 / sqrtf(x), 1 / sqrt(x))
-    FUNCTION(cbrt, 1)
-    FUNCTION2(hypot, 1)
-    FUNCTION(exp, 1)
-    FUNCTION(exp2, 1)
-    FUNCTION(exp10, 2)
-    FUNCTION(expm1, 1)
-    FUNCTION(log, 1)
-    FUNCTION(log2, 1)
-    FUNCTION(log10, 2)
-    FUNCTION(log1p, 1)
-    FUNCTION(sin, 1)
-    FUNCTION(cos, 1)
-    for (const char* base : {"sincos", "sincosreg"}) {
-        add_lane_peer<sine_and_cosine_float>(peers, base + std::string("f"), "c", 1);
-        add_lane_peer<sine_and_cosine>(peers, base, "c", 1);
-    }
-    FUNCTION(floor, 0)
-    FUNCTION(ceil, 0)
-    FUNCTION(rint, 0)
-    FUNCTION(nearbyint, 0)
-    FUNCTION(round, 0)
-    FUNCTION(trunc, 0)
-    FUNCTION(fabs, 0)
-    FUNCTION2(fmin, 0)
-    FUNCTION2(fmax, 0)
-    FUNCTION2(fdim, 0.5)
-    FUNCTION2(copysign, 0)
-    TERNARY(mad, 0.5, x * y + z, x * y + z)
-    TERNARY(fma, 0.5, fmaf(x, y, z), fma(x, y, z))
-    ALL_TO_INTEGER(i32, int32_t)
-    ALL_TO_INTEGER(u32, uint32_t)
-    ALL_TO_INTEGER(i64, int64_t)
-    ALL_TO_INTEGER(u64, uint64_t)
-    FROM_INTEGER(i32, int32_t)
-    FROM_INTEGER(u32, uint32_t)
-    FROM_INTEGER(i64, int64_t)
-    FROM_INTEGER(u64, uint64_t)
+// Conversions, lane by lane; the saturating families take in-range operands here too, so that the bare conversion is
+// their peer.
+template <class From, class To, class Expression, bool skips>
+void conversion_pass(const Arrays& all) {
+    const Arrays arrays = all;
+    for (size_t i = 0; i < elements; ++i)
+        if (!skips || i % 4 != 3) arrays.result<To>(0)[i] = static_cast<To>(Expression{}(arrays.operand<From>(0)[i]));
+}
+template <class From, class To, class Expression>
+void add_conversion(std::vector<Peer>& peers, const std::string& family, double bound, Expression) {
+    peers.push_back({family, World::column, bound, {1, 2, 4, 8, 16}, conversion_pass<From, To, Expression, false>});
+    peers.push_back({family, World::column, bound, {3}, conversion_pass<From, To, Expression, true>});
+}
+template <class Integer>
+void add_conversions(std::vector<Peer>& peers, const std::string& name) {
+    auto to = [&](const char* rounding, auto expression) {
+        for (const char* saturation : {"sat", "nosat"}) {
+            std::string family = "cvtfpto" + name + rounding + saturation;
+            add_conversion<float, Integer>(peers, family + "f", 0, expression);
+            add_conversion<double, Integer>(peers, family, 0, expression);
+        }
+    };
+    to("rtn", [](auto x) { return rint(x); });
+    to("rtz", [](auto x) { return x; });
+    to("up", [](auto x) { return ceil(x); });
+    to("down", [](auto x) { return floor(x); });
+    auto same = [](Integer x) { return x; };
+    add_conversion<Integer, float>(peers, "cvt" + name + "tofprtnf", 0.5, same);
+    add_conversion<Integer, double>(peers, "cvt" + name + "tofprtn", 0.5, same);
 }
 
-}  // namespace bench
+void add(std::vector<Peer>& peers) {
+#define PEERS(base, ...) WORLD_PEERS(World, base, __VA_ARGS__)
+#include "include/operations.def"
+    add_conversions<int32_t>(peers, "i32");
+    add_conversions<uint32_t>(peers, "u32");
+    add_conversions<int64_t>(peers, "i64");
+    add_conversions<uint64_t>(peers, "u64");
+}
+
+}  // namespace bench::c_library
+
+void bench::add_c_library(std::vector<Peer>& peers) { c_library::add(peers); }

@@ -1,6 +1,6 @@
 // Every standing family with a reference: a sample of each of its ranges keeps the bound that the grid states, and
 // the worst operands known come up to it. A family that joins the grid is tested without a line here; its ranges
-// stand in tools/accuracy_ranges.def, its worst operands in tests/worst (the accuracy tool writes them).
+// stand beside its kernel (operations.def), its worst operands in tests/worst (the accuracy tool writes them).
 #include <gtest/gtest.h>
 
 #include <algorithm>

@@ -1,0 +1,160 @@
+#include "bench/report.h"
+
+#include <algorithm>
+#include <set>
+
+#include "bench/compare.h"
+#include "tools/ranges.h"
+
+namespace bench {
+namespace {
+
+const Finding* find(const std::vector<Finding>& findings, const grid::Family& family, int width, Set set) {
+    for (const Finding& finding : findings)
+        if (finding.family == &family && finding.width == width && finding.set == set) return &finding;
+    return nullptr;
+}
+
+std::string title_of(const std::string& column) {
+    static const std::map<std::string, std::string> titles = {
+        {"c", "C"},         {"sleef", "SLEEF"},         {"sleef_u05", "SLEEF u05"}, {"sleef_u10", "SLEEF u10"},
+        {"xsimd", "xsimd"}, {"sleef_u15", "SLEEF u15"}, {"sleef_u35", "SLEEF u35"}};
+    auto found = titles.find(column);
+    return found == titles.end() ? column : found->second;
+}
+
+std::string digits(double ratio) {
+    if (ratio == 0) return "";
+    char text[32];
+    std::snprintf(text, sizeof text, "%.*f", ratio < 9.95 ? 2 : ratio < 99.5 ? 1 : 0, ratio);
+    return text;
+}
+
+// Times as long as its floor; 0 where the floor has not been timed.
+double over_its_floor(const Finding& finding) {
+    double ratio = finding.ratio(floor_column);
+    return ratio == 0 ? 0 : 1 / ratio;
+}
+
+struct Goal {
+    std::string what;  // family, width, operands, column
+    double wanted, measured;
+};
+
+std::vector<Goal> goals_of(const std::vector<Finding>& findings) {
+    std::vector<Goal> goals;
+    for (const Finding& finding : findings) {
+        const grid::Family& family = *finding.family;
+        auto add = [&](const std::string& column, double wanted) {
+            if (double measured = finding.ratio(column); measured != 0)
+                goals.push_back({"`" + family.name + "`, " + std::to_string(finding.width) + " lanes" +
+                                     (finding.set == Set::long_path ? ", long path" : "") + ": " + title_of(column),
+                                 wanted, measured});
+        };
+        if (finding.width != 4 && finding.width != 16) continue;
+        if (finding.set == Set::in_range && !family.is_native) add(finding.rival, goal_beside_rival);
+        if (finding.set == Set::long_path && !family.is_native) add(finding.rival, goal_of_long_path);
+        if (finding.set == Set::in_range && family.is_native && finding.width == 16) add("accurate", goal_of_native);
+    }
+    return goals;
+}
+
+}  // namespace
+
+double Finding::ratio(const std::string& column) const {
+    auto found = times.find(column);
+    return found == times.end() ? 0 : found->second / times.at(ours);
+}
+
+bool is_needed_for_limits(const grid::Family& family, int width, Set set) {
+    return width == 16 && set == Set::in_range && !family.is(grid::all_rare);
+}
+
+bool print_limits(std::FILE* file, const std::vector<Finding>& findings) {
+    int count = 0, missed = 0;
+    for (const Finding& finding : findings) {
+        if (!is_needed_for_limits(*finding.family, finding.width, finding.set)) continue;
+        ++count;
+        const std::string& name = finding.family->name;
+        auto floor = finding.times.find(floor_column);
+        if (floor == finding.times.end()) {
+            ++missed;
+            std::fprintf(file, "- `%s`: no floor; its operands in range are not all the main path's.\n", name.c_str());
+            continue;
+        }
+        double call_cost = std::max(0.0, finding.times.at(call) - finding.times.at(call_floor));
+        double limit = std::max(over_floor * floor->second, floor->second + over_call * call_cost);
+        double own = finding.times.at(ours);
+        if (own <= limit) continue;
+        ++missed;
+        std::fprintf(file, "- `%s` takes %.2f times as long as its floor; the limit is %.2f.\n", name.c_str(),
+                     own / floor->second, limit / floor->second);
+    }
+    std::fprintf(file, "%s%d of %d limits are met.\n", missed ? "\n" : "", count - missed, count);
+    return missed == 0;
+}
+
+void print_page(std::FILE* file, const std::vector<Finding>& findings) {
+    for (const accuracy::Group& group : accuracy::groups()) {
+        bool begun = false;
+        for (const grid::Family& family : grid::families()) {
+            if (accuracy::group_of(family).folder != group.folder) continue;
+            const Finding* four = find(findings, family, 4, Set::in_range);
+            const Finding* sixteen = find(findings, family, 16, Set::in_range);
+            if (!four || !sixteen) continue;
+            if (!begun)
+                std::fprintf(file,
+                             "\n## %.*s\n\n| family | fastest peer within 4 ulp | 4 lanes | 16 lanes | "
+                             "its accurate class, 16 lanes | over its floor, 16 lanes |\n|---|---|--:|--:|--:|--:|\n",
+                             static_cast<int>(group.title.size()), group.title.data());
+            begun = true;
+            std::string rivals = title_of(four->rival);
+            if (sixteen->rival != four->rival) rivals += ", " + title_of(sixteen->rival);
+            std::fprintf(file, "| `%s` | %s | %s | %s | %s | %s |\n", family.name.c_str(), rivals.c_str(),
+                         digits(four->ratio(four->rival)).c_str(), digits(sixteen->ratio(sixteen->rival)).c_str(),
+                         digits(sixteen->ratio("accurate")).c_str(), digits(over_its_floor(*sixteen)).c_str());
+        }
+    }
+    std::fprintf(file, "\n## Limits\n\n");
+    print_limits(file, findings);
+    std::vector<Goal> goals = goals_of(findings);
+    auto reached = std::ranges::count_if(goals, [](const Goal& goal) { return goal.measured >= goal.wanted; });
+    std::fprintf(file, "\n## Goals\n\n%d of %d goals are reached. The others:\n\n", static_cast<int>(reached),
+                 static_cast<int>(goals.size()));
+    std::fprintf(file, "| beside | goal | measured |\n|---|--:|--:|\n");
+    for (const Goal& goal : goals)
+        if (goal.measured < goal.wanted)
+            std::fprintf(file, "| %s | %s | %s |\n", goal.what.c_str(), digits(goal.wanted).c_str(),
+                         digits(goal.measured).c_str());
+}
+
+void print_csv(std::FILE* file, const std::vector<Finding>& findings) {
+    std::set<std::string> columns;
+    for (const Finding& finding : findings)
+        for (const auto& [column, time] : finding.times)
+            if (column != ours) columns.insert(column);
+    std::fprintf(file, "family,group,precision,class,signature,width,operands,nanoseconds,fastest,fastest_sleef");
+    for (const std::string& column : columns) std::fprintf(file, ",%s", column.c_str());
+    std::fprintf(file, "\n");
+    for (const Finding& finding : findings) {
+        const grid::Family& family = *finding.family;
+        double sleef = 0;  // the fastest of its classes within 4 ulp
+        for (const std::string& column : columns)
+            if (double ratio = finding.ratio(column); column.starts_with("sleef") && column != "sleef_u3500" && ratio)
+                sleef = sleef == 0 ? ratio : std::min(sleef, ratio);
+        auto cell = [&](double ratio) { std::fprintf(file, ratio == 0 ? "," : ",%.4g", ratio); };
+        std::fprintf(file, "%s,%.*s,%s,%s,%s,%d,%s,%.4g", family.name.c_str(),
+                     static_cast<int>(accuracy::group_of(family).folder.size()),
+                     accuracy::group_of(family).folder.data(), family.is_single ? "float" : "double",
+                     family.is_native ? "native" : "accurate", family.signature.c_str(), finding.width,
+                     name_of(finding.set),
+                     finding.times.at(ours) * 1e9 / static_cast<double>(elements) *
+                         static_cast<double>(grid::room(finding.width)));
+        cell(finding.ratio(finding.rival));
+        cell(sleef);
+        for (const std::string& column : columns) cell(finding.ratio(column));
+        std::fprintf(file, "\n");
+    }
+}
+
+}  // namespace bench
