@@ -139,6 +139,11 @@ void exact_lgamma(Lane, const Real* x, Real* results) {
     mpfr_lgamma(results[0].get(), &sign, x->get(), MPFR_RNDN);
     mpfr_set_si(results[1].get(), sign, MPFR_RNDN);
 }
+void screen_lgamma(const long double* x, long double* results) {
+    int sign = 1;
+    results[0] = lgammal_r(*x, &sign);
+    results[1] = sign;
+}
 
 std::vector<Operation> make_operations() {
     return {
@@ -239,7 +244,7 @@ std::vector<Operation> make_operations() {
         {"erfc", 1, exact<mpfr_erfc>, screen<erfcl>},
         {"tgamma", 1, exact<mpfr_gamma>, screen<tgammal>},
         {"lgamma", 1, exact_lgamma, screen<lgammal>},
-        {"lgammar", 2, exact_lgamma, nullptr},
+        {"lgammar", 2, exact_lgamma, screen_lgamma},
     };
 }
 
