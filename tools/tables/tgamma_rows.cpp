@@ -4,9 +4,8 @@
 #include <algorithm>
 #include <cstring>
 
-#include "tools/tables/remez.h"
+#include "tools/tables/quadratics.h"
 
-using tables::operator<;
 using tables::Real;
 
 namespace {
@@ -45,41 +44,6 @@ Real value(const Extended& bits) {
     return result;
 }
 
-struct Complex {
-    Real real, imaginary;
-};
-Complex operator+(const Complex& a, const Complex& b) { return {a.real + b.real, a.imaginary + b.imaginary}; }
-Complex operator-(const Complex& a, const Complex& b) { return {a.real - b.real, a.imaginary - b.imaginary}; }
-Complex operator*(const Complex& a, const Complex& b) {
-    return {a.real * b.real - a.imaginary * b.imaginary, a.real * b.imaginary + a.imaginary * b.real};
-}
-Real squared_magnitude(const Complex& a) { return a.real * a.real + a.imaginary * a.imaginary; }
-Complex operator/(const Complex& a, const Complex& b) {
-    Real size = squared_magnitude(b);
-    Complex product = a * Complex{b.real, Real(0.0) - b.imaginary};
-    return {product.real / size, product.imaginary / size};
-}
-
-// All roots of t^22 + c[21] t^21 + ... + c[0], each repelled by the others (Durand and Kerner's iteration).
-std::vector<Complex> roots(const std::vector<Real>& c) {
-    std::vector<Complex> roots = {{3.0, 0.0}};
-    for (size_t i = 1; i < degree; ++i) roots.push_back(roots.back() * Complex{0.4, 0.9});
-    for (int round = 0; round < 200; ++round) {
-        Real largest = 0.0;
-        for (Complex& root : roots) {
-            Complex step = {1.0, 0.0};
-            for (size_t i = degree; i-- > 0;) step = step * root + Complex{c[i], 0.0};
-            for (const Complex& other : roots)
-                if (&other != &root) step = step / (root - other);
-            root = root - step;
-            if (largest < squared_magnitude(step)) largest = squared_magnitude(step);
-        }
-        if (largest < Real(0x1p-400)) return roots;
-    }
-    std::fprintf(stderr, "the roots do not settle\n");
-    std::exit(1);
-}
-
 // Coefficients c[0] to c[22] of gamma(base + t), those of the last row with c[22] = 1.
 std::vector<Real> fit(int row) {
     Real base = row == 0 ? 2.0 : 16.0 * row;
@@ -99,18 +63,13 @@ std::vector<Real> fit(int row) {
     return c;
 }
 
-std::vector<Extended> quadratics(std::vector<Real> c) {
-    Real scale = c[degree];
-    for (Real& coefficient : c) coefficient = coefficient / scale;
-    std::vector<Complex> upper;
-    for (const Complex& root : roots(c))
-        if (Real(0.0) < root.imaginary) upper.push_back(root);
-    std::sort(upper.begin(), upper.end(), [](const Complex& a, const Complex& b) { return a.real < b.real; });
-    if (upper.size() != degree / 2) std::exit(1);
+std::vector<Extended> factored(const std::vector<Real>& polynomial) {
+    auto quadratics = tables::quadratics(polynomial);
+    std::reverse(quadratics.begin(), quadratics.end());
     std::vector<Extended> row;
-    for (const Complex& root : upper) row.push_back(extended(Real(-2.0) * root.real));
-    for (const Complex& root : upper) row.push_back(extended(squared_magnitude(root)));
-    row.push_back(extended(scale));
+    for (const auto& quadratic : quadratics) row.push_back(extended(quadratic.b));
+    for (const auto& quadratic : quadratics) row.push_back(extended(quadratic.c));
+    row.push_back(extended(polynomial[degree]));
     return row;
 }
 
@@ -120,7 +79,7 @@ int main() {
     tables::header("gamma(base + t) as quadratics in t: b, c, scale; sign and exponent, significand.", "tgamma_rows");
     for (int i = 0; i <= last; ++i) {
         std::vector<Extended> row(first_row, first_row + degree + 1);
-        if (i > 0) row = quadratics(fit(i));
+        if (i > 0) row = factored(fit(i));
         for (size_t k = 0; k <= degree; ++k) {
             const char* before = k == 0 ? "    {{" : k == degree / 2 ? "     {" : k < degree ? "      " : "     ";
             const char* after = k == degree ? "}," : (k + 1) % (degree / 2) == 0 ? "}," : ",";
