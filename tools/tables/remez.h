@@ -1,6 +1,7 @@
 // Minimax fits: the polynomial whose largest relative error on an interval is least, by Remez' exchange.
 #pragma once
 
+#include <cstdlib>
 #include <functional>
 #include <utility>
 #include <vector>
@@ -62,7 +63,7 @@ inline std::vector<Real> relative_minimax(const Function& f, int lowest, int deg
     Real step = (high - low) * Real(0x1p-100);
     std::vector<Real> points;
     for (size_t i = 0; i <= terms; ++i) points.push_back(at(static_cast<double>(i) / static_cast<double>(terms)));
-    for (int round = 0; round < 10; ++round) {
+    for (int round = 0; round < 100; ++round) {
         // The polynomial that misses all points by the same, in turns above and below.
         std::vector<std::vector<Real>> rows;
         for (size_t i = 0; i <= terms; ++i) {
@@ -76,15 +77,25 @@ inline std::vector<Real> relative_minimax(const Function& f, int lowest, int deg
         c = solve(rows);
         c.pop_back();
 
-        // The ends of the interval stay; every inner point takes one Newton step to where the error is largest.
+        // The ends of the interval stay; every inner point takes one Newton step to where the error is largest, or,
+        // where that would lead to where it is least or far away, goes uphill, a quarter of the way to its neighbour.
         std::vector<Real> next = points;
+        Real longest = 0.0;
         for (size_t i = 1; i < terms; ++i) {
             Real before = error(points[i] - step), here = error(points[i]), after = error(points[i] + step);
-            next[i] = points[i] - step * (after - before) / (Real(2.0) * (after - here - here + before));
+            Real slope = after - before, curvature = after - here - here + before;
+            Real move = step * slope / (Real(-2.0) * curvature);
+            Real uphill = Real(0.0) < slope * here ? points[i + 1] - points[i] : points[i - 1] - points[i];
+            if (Real(0.0) < here * curvature || magnitude(uphill) < Real(4.0) * magnitude(move))
+                move = uphill / Real(4.0);
+            next[i] = points[i] + move;
+            if (longest < magnitude(move)) longest = magnitude(move);
         }
         points = next;
+        if (longest < step) return c;
     }
-    return c;
+    std::fprintf(stderr, "the exchange does not settle\n");
+    std::exit(1);
 }
 
 }  // namespace tables
