@@ -139,9 +139,9 @@ Float distance_to_integer(Float y, Float shifter) {
 long double lgammaf_log(double v) {
     const LgammafData& data = lgammaf_data;
     if (v >= 1 && v < 1 + 0x1.8p-12) {
-        auto c = [&](int i) { return static_cast<long double>(double(data.just_above_one[i])); };
+        const auto& c = data.just_above_one;
         long double e = v - 1, p = e * e;
-        return ((c(0) * p + c(1)) * p + (c(2) * p + c(3)) * e) * e + e;
+        return ((c[0] * p + c[1]) * p + (c[2] * p + c[3]) * e) * e + e;
     }
     return logarithm(v, data.log);
 }
@@ -183,9 +183,9 @@ long double lgammaf_negative(float x) {
     long double ln_y = lgammaf_log(y), ln_f = lgammaf_log(f);
     if (y >= 8192) return (x - 0.5L) * ln_y - data.half_ln_2pi + y - chain(q, data.reflection) * q - ln_f;
     long double q2 = q * q;
-    auto c = [&](int i) { return static_cast<long double>(double(data.reflection.c[i])); };
-    long double odd = ((c(1) * q2 + c(3)) * q2 + c(5)) * q2 + c(7);
-    long double even = ((c(0) * q2 + c(2)) * q2 + c(4)) * q2 + c(6);
+    const auto& c = data.reflection.c;
+    long double odd = ((c[1] * q2 + c[3]) * q2 + c[5]) * q2 + c[7];
+    long double even = ((c[0] * q2 + c[2]) * q2 + c[4]) * q2 + c[6];
     return -ln_y - lgammaf_row(y) - (q * odd + q2 * even) - ln_f;
 }
 
