@@ -5,8 +5,8 @@
 //   gamma(x) = gamma(x + n)/(x (x + 1) ... (x + n - 1))                      x down to -9 (double: -17)
 //   ln|gamma(-y)| = -ln y - ln gamma(y) - ln(sin(pi f)/(pi f)) - ln f        f the distance to the nearest integer
 //
-// Between the negative integers ln|gamma| has two zeros each, about which both would lose what they have: there, a
-// polynomial about the zero. (Nearer to the integers than a number can be, the zeros do no harm.)
+// Between any two neighbours of the integers below -2, ln|gamma| has two zeros, where both ways cancel: about these, a
+// polynomial of its own. Further down the zeros come so near to the integers that no number is near to them.
 //
 // All is computed on the x87 unit in its 80-bit format, single precision with double coefficients, and rounded once, to
 // little more than half an ulp.
@@ -95,6 +95,12 @@ long double logarithm(Float v, const Data& data) {
     return (static_cast<long double>(n) * data.ln2_head + part.head + eh) + tail;
 }
 
+// t of y = 2^n (1 + t).
+template <class Float>
+long double fraction_of(Float y) {
+    return with_exponent_of_one(y) - 1.0L;
+}
+
 // ---- Signs and integers. -----------------------------------------------------------------------------------
 
 // The bits of a finite number that stand for its fraction.
@@ -133,25 +139,22 @@ Float distance_to_integer(Float y, Float shifter) {
 long double lgammaf_log(double v) {
     const LgammafData& data = lgammaf_data;
     if (v >= 1 && v < 1 + 0x1.8p-12) {
-        auto c = [&](int i) { return static_cast<long double>(double(data.just_above_one[i])); };
+        const auto& c = data.just_above_one;
         long double e = v - 1, p = e * e;
-        return ((c(0) * p + c(1)) * p + (c(2) * p + c(3)) * e) * e + e;
+        return ((c[0] * p + c[1]) * p + (c[2] * p + c[3]) * e) * e + e;
     }
     return logarithm(v, data.log);
 }
 
-// ln gamma(y) for y in [1, 8192).
-long double lgammaf_core(long double y) {
+// ln gamma(y) for y in [1, 4).
+long double lgammaf_low(long double y) {
     const LgammafData& data = lgammaf_data;
-    if (y >= 4) {
-        int row = unbiased_exponent(static_cast<float>(y)) - 2;
-        long double t = (y - power_of_two<float>(row + 2)) * power_of_two<float>(-row - 2);
-        return two_chains(t, lgammaf_rows[row]);
-    }
     if (y >= 2) return (y - 2) * two_chains(y, data.two_to_four);
     int quarter = (y >= 1.25) + (y >= 1.5) + (y >= 1.75);
     return two_chains(quarter == 1 ? y - data.centre : y, data.quarters[quarter]);
 }
+// ln gamma(y) for y in [4, 8192), in the fraction of y.
+long double lgammaf_row(float y) { return two_chains(fraction_of(y), lgammaf_rows[unbiased_exponent(y) - 2]); }
 
 // ln|gamma x| for x in (-9, 0).
 long double lgammaf_shifted(float x) {
@@ -160,7 +163,7 @@ long double lgammaf_shifted(float x) {
         p *= y;
         y += 1;
     }
-    return lgammaf_core(y) - lgammaf_log(magnitude_of(static_cast<double>(p)));
+    return lgammaf_low(y) - lgammaf_log(magnitude_of(static_cast<double>(p)));
 }
 
 long double lgammaf_negative(float x) {
@@ -180,21 +183,25 @@ long double lgammaf_negative(float x) {
     long double ln_y = lgammaf_log(y), ln_f = lgammaf_log(f);
     if (y >= 8192) return (x - 0.5L) * ln_y - data.half_ln_2pi + y - chain(q, data.reflection) * q - ln_f;
     long double q2 = q * q;
-    auto c = [&](int i) { return static_cast<long double>(double(data.reflection.c[i])); };
-    long double odd = ((c(1) * q2 + c(3)) * q2 + c(5)) * q2 + c(7);
-    long double even = ((c(0) * q2 + c(2)) * q2 + c(4)) * q2 + c(6);
-    return -ln_y - lgammaf_core(y) - (q * odd + q2 * even) - ln_f;
+    const auto& c = data.reflection.c;
+    long double odd = ((c[1] * q2 + c[3]) * q2 + c[5]) * q2 + c[7];
+    long double even = ((c[0] * q2 + c[2]) * q2 + c[4]) * q2 + c[6];
+    return -ln_y - lgammaf_row(y) - (q * odd + q2 * even) - ln_f;
 }
 
 long double lgammaf_positive(float x) {
     if (x >= 8192) return (x - 0.5L) * lgammaf_log(x) - x + lgammaf_data.half_ln_2pi;
-    if (x >= 1) return lgammaf_core(x);
-    return lgammaf_core(x + 1.0L) - lgammaf_log(x);
+    if (x >= 4) return lgammaf_row(x);
+    return x >= 1 ? lgammaf_low(x) : lgammaf_low(x + 1.0L) - lgammaf_log(x);
 }
 
 // ---- Double precision. -------------------------------------------------------------------------------------
 
 long double lgamma_log(long double v) { return logarithm(v, lgamma_data.log); }
+long double lgamma_log(double v) {
+    if (v < Fields<double>::smallest_normal) return lgamma_log(static_cast<long double>(v));  // normal in that format
+    return logarithm(v, lgamma_data.log);
+}
 
 // ln gamma(y) - ((y - 1/2) ln y - y + ln(2 pi)/2), for large y.
 long double stirling_rest(long double y) {
@@ -202,17 +209,17 @@ long double stirling_rest(long double y) {
     return inverse * (lgamma_data.twelfth + inverse * inverse * lgamma_data.stirling_cubed);
 }
 
-// ln gamma(y) for y in [0.875, 512).
-long double lgamma_core(long double y) {
+// ln gamma(y) for y in [0.875, 4).
+long double lgamma_low(long double y) {
     const LgammaData& data = lgamma_data;
-    if (y >= 4) {
-        int row = unbiased_exponent(static_cast<double>(y)) - 2;
-        const GammaFactors& factors = lgamma_rows[row];
-        return product(factors.scale, (y - power_of_two<double>(row + 2)) * power_of_two<double>(-row - 2), factors);
-    }
     if (y >= 2.25) return product(data.to_four.scale * (y - 2), y, data.to_four);
     const auto& piece = data.pieces[(y >= 1.25) + (y >= 1.75)];
     return two_chains(y - piece.centre, piece.p);
+}
+// ln gamma(y) for y in [4, 512), in the fraction of y.
+long double lgamma_row(double y) {
+    const GammaFactors& factors = lgamma_rows[unbiased_exponent(y) - 2];
+    return product(factors.scale, fraction_of(y), factors);
 }
 
 // ln|gamma x| for x in (-17, 0).
@@ -229,7 +236,7 @@ long double lgamma_shifted(double x) {
             y += 2;
         }
     }
-    return lgamma_core(y) - lgamma_log(__builtin_fabsl(p));
+    return lgamma_low(y) - lgamma_log(__builtin_fabsl(p));
 }
 
 long double lgamma_negative(double x) {
@@ -244,14 +251,14 @@ long double lgamma_negative(double x) {
     double f = distance_to_integer(y, double(data.shifter));
     long double q = static_cast<long double>(f) * f;
     long double sine = chain(q, data.reflection) * q, ln_y = lgamma_log(y), ln_f = lgamma_log(f);
-    if (y < 512) return -ln_y - lgamma_core(y) - sine - ln_f;
+    if (y < 512) return -ln_y - lgamma_row(y) - sine - ln_f;
     return -(y + 0.5L) * ln_y + y - data.half_ln_2pi - stirling_rest(y) - sine - ln_f;
 }
 
 long double lgamma_positive(double x) {
     if (x >= 512) return (x - 0.5L) * lgamma_log(x) - x + lgamma_data.half_ln_2pi + stirling_rest(x);
-    if (x >= 0.875) return lgamma_core(x);
-    return lgamma_core(x + 1.0L) - lgamma_log(x);
+    if (x >= 4) return lgamma_row(x);
+    return x >= 0.875 ? lgamma_low(x) : lgamma_low(x + 1.0L) - lgamma_log(x);
 }
 
 // ---- The routines. -----------------------------------------------------------------------------------------

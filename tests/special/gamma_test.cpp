@@ -4,6 +4,7 @@
 #include <limits>
 
 #include "tests/harness/lanes.h"
+#include "tests/special/control_word.h"
 
 namespace {
 
@@ -181,25 +182,7 @@ TEST(Gamma, LastBitsInDouble) {
                           });
 }
 
-// The x87 unit with significands of 24, 53 or 64 bits: the results are the same and the word stays, on every path.
-class ControlWord {
-  public:
-    explicit ControlWord(uint16_t precision) {
-        asm volatile("fnstcw %0" : "=m"(before_) : : "memory");
-        set_ = static_cast<uint16_t>((before_ & ~0x300) | precision);
-        asm volatile("fldcw %0" : : "m"(set_) : "memory");
-    }
-    ~ControlWord() { asm volatile("fldcw %0" : : "m"(before_) : "memory"); }
-    bool stands() const {
-        uint16_t now;
-        asm volatile("fnstcw %0" : "=m"(now) : : "memory");
-        return now == set_;
-    }
-
-  private:
-    uint16_t before_, set_;
-};
-
+// Significands of 24, 53 or 64 bits at the call: the results are the same and the word stays, on every path.
 TEST(Gamma, AnyPrecisionOfTheCaller) {
     const double operands[] = {0.3,    1.1,    1.3,      1.9,       2.5,
                                17.5,   100.3,  170.9,    -0.3,      -1.3,
