@@ -52,6 +52,7 @@ inline LaneOffsets2 offsets_of_words(L2 lanes) {
 // difference. (Subtracted from the offsets, it would tempt the compiler to shuffle them back into a unit.)
 template <class Row>
 inline const Row* counted_from(uint32_t first, const Row* rows) {
+    // NOLINTNEXTLINE(performance-no-int-to-ptr): no array begins there
     return reinterpret_cast<const Row*>(reinterpret_cast<uintptr_t>(rows) - first * sizeof(Row));
 }
 

@@ -51,7 +51,7 @@ D2 asinh_of(D2 x, D2 a, const Data& data) {
     D2 small_w = h + (h * h * h - h * h) * data.half;
     w = select(a <= data.small, small_w, w);
 
-    auto [argument, k] = unless_huge(a, plus_one(a + w, data.log.one, data.sum), data.huge);
+    auto [argument, k] = unless_huge(a, plus_one(add_in_order(a, w), data.log.one, data.sum), data.huge);
     return xor_bits(area_log(argument, k, data.log), bits(x) & data.sign);
 }
 
@@ -82,7 +82,7 @@ D2 acosh_of(D2 x, const Data& data) {
     auto [a, b, r] = estimated_root(split_by_mask(p, data.root_operand_head), data.log.one, data.root_head, data.root);
     D2 v = a + b;
     D2 root = v + v * r;
-    auto [argument, k] = unless_huge(x, plus_one(d + root, data.log.one, data.sum), data.huge);
+    auto [argument, k] = unless_huge(x, plus_one(add_in_order(d, root), data.log.one, data.sum), data.huge);
     return area_log(argument, k, data.log);
 }
 
@@ -114,10 +114,10 @@ D2 atanh_of(D2 x, D2 a, const Data& data) {
 
     // y ~ 1/(1 - a), y (1 - a) = 1 - e;  2a/(1 - a) = t + tl, with 1/(1 - e) - 1 = (e + e^3)(e + e^2) + e
     D2 y = and_bits(reciprocal_estimate(dh), data.reciprocal_head);
-    D2 e = (data.log.one - y * dh) - y * dl;
+    D2 e = (data.log.one - multiply_in_order(y, dh)) - y * dl;
     D2 e2 = e * e;
     D2 correction = e + (e + e2 * e) * (e + e2);
-    D2 qh = y * nh, ql = y * nl;
+    D2 qh = multiply_in_order(y, nh), ql = multiply_in_order(y, nl);
     D2 c = correction * qh + (ql + correction * ql);
     D2 t = qh + c;
     D2 tl = (qh - t) + c;

@@ -54,10 +54,10 @@ F4 asinh_of(F4 x, F4 a, const Data& data) {
     u = select(small, small_u, u);
     ul = select(small, small_ul, ul);
 
-    F4 t = a + u;
+    F4 t = add_in_order(a, u);
     F4 tl = ((a - t) + u) + ul;
     HeadTail<F4> whole = plus_one(t, data.log.one);
-    auto [argument, k] = unless_huge(a, HeadTail<F4>{whole.head, whole.tail + tl}, data.huge);
+    auto [argument, k] = unless_huge(a, HeadTail<F4>{whole.head, add_in_order(whole.tail, tl)}, data.huge);
     return xor_bits(area_log(argument, k, data.log), bits(x) & data.sign);
 }
 
@@ -88,7 +88,7 @@ F4 acosh_of(F4 x, const Data& data) {
     auto [a, b, r] = estimated_root(split_by_mask(p, data.root_head), data.log.one, data.root_head, data.root);
     F4 v = a + b;
     F4 root = v + v * r;
-    auto [argument, k] = unless_huge(x, plus_one(d + root, data.log.one), data.huge);
+    auto [argument, k] = unless_huge(x, plus_one(add_in_order(d, root), data.log.one), data.huge);
     return area_log(argument, k, data.log);
 }
 
@@ -120,15 +120,15 @@ F4 atanh_of(F4 x, F4 a, const Data& data) {
 
     // y ~ 1/(1 - a), y (1 - a) = 1 - e;  2a/(1 - a) = t + tl
     F4 y = and_bits(reciprocal_estimate(dh), data.head);
-    F4 e = (data.log.one - y * dh) - y * dl;
+    F4 e = (data.log.one - multiply_in_order(y, dh)) - y * dl;
     F4 correction = e + e * e;
-    F4 qh = y * nh, ql = y * nl;
+    F4 qh = multiply_in_order(y, nh), ql = multiply_in_order(y, nl);
     F4 c = correction * qh + (ql + correction * ql);
     F4 t = qh + c;
     F4 tl = (qh - t) + c;
 
     HeadTail<F4> whole = plus_one(t, data.log.one);
-    F4 log = area_log({whole.head, whole.tail + tl}, F4{}, data.log);
+    F4 log = area_log({whole.head, add_in_order(whole.tail, tl)}, F4{}, data.log);
     return xor_bits(data.half, bits(x) & data.sign) * log;
 }
 

@@ -55,7 +55,7 @@ inline D2 area_log(HeadTail<D2> x, D2 k, const AreaLogData<terms>& data) {
     for (uint32_t& index : at.lane) index -= 512;
     D2 minus_log = gather_indexed(data.minus_log, at);
     D2 scaled = as_double(bits(data.scale_base) - (bits(x.head) & data.exponent)) * reciprocal;
-    D2 f = (x.head * scaled - data.one) + x.tail * scaled;
+    D2 f = add_in_order(x.head * scaled - data.one, x.tail * scaled);
     // The sign bit counts with the exponent.
     D2 ex = small_integer_to_double(signed_lanes(unsigned_lanes(bits(x.head)) >> 52), data.two_to_52);
     L2 upper = data.last_of_upper_half < reciprocal;

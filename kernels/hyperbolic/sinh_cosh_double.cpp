@@ -42,7 +42,7 @@ inline D2 sinh_by_steps(D2 x, const SinhData& data) {
     auto [sinh, half_power] = gather_pair(&data.rows[0].sinh, offsets_of(j << 4));
     D2 difference = as_double(bits(sinh) + m);  // of row 0 a tiny number, where 0 is meant: it does not reach C or S
     D2 up = as_double(bits(half_power) + m), down = as_double(bits(half_power) - m);
-    D2 c = difference + (up + down), s = difference + (up - down);
+    D2 c = add_in_order(difference, up + down), s = add_in_order(difference, up - down);
     D2 q = r * r;
     D2 sr = r + horner(q, data.s) * q * r;
     D2 cr = horner(q, data.c) * q;

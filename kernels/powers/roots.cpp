@@ -2,11 +2,11 @@
 // the end.
 //
 //   rootnf   the native double power by a float 1/n: all its error comes from that reciprocal
-//   rootn    the accurate power by 1/n as a head and a tail; the last sums in another order, with the tails of
-//   2^(j/128) native   the native powers by a rounded 1/n
+//   rootn    the accurate power by 1/n as a head and a tail; the last sums in another order, with the table's tails
+//   native   the native powers by a rounded 1/n
 //
 // Rare: |x| not a normal number (rootnf: the largest float too); n = 0; an even root of a number with the sign bit;
-// results that could leave the normal range, which no normal x has.
+// results that could leave the normal range: in double 1/x of the largest x.
 #include "kernels/powers/power_double.h"
 #include "kernels/powers/power_float_native.h"
 #include "kernels/powers/power_rare.h"

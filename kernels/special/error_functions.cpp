@@ -25,7 +25,7 @@ namespace {
 
 inline F4 erff_main(F4 x, const ErffData& data) {
     I4 row = clamp_words(((bits(x) & data.interval) - data.first_row) >> 19, I4{}, data.last_row);
-    LaneOffsets at = offsets_of(row << 5);
+    LaneOffsets at = offsets_of(row << 5);  // NOLINT(clang-analyzer-deadcode.DeadStores): it is read twice
     auto [d, v_head, v_tail, g_head] = gather_rows(&data.rows[0].d, at).column;
     auto [g_tail, c2, c3, c4] = gather_rows(&data.rows[0].g_tail, at).column;
     F4 w = and_bits(x, data.magnitude) - d;

@@ -8,7 +8,6 @@
 
 namespace {
 
-using harness::Row;
 
 // A row of the page: | `family` | operands | the built-in | here | because |
 struct Difference {

@@ -148,7 +148,7 @@ TEST(Exponents, AreThoseOfTheLeadingBit) {
             Patterns x;
             for (int i = 0; i < 16; ++i) {
                 uint64_t bits = random.next() >> (is_single ? 32 : 0);
-                if (round % 4 == 0) bits &= ~(static_cast<uint64_t>(2 * bias + 1) << mantissa_bits);  // subnormal
+                if (round % 4 == 0) bits &= ~((2ull * static_cast<unsigned>(bias) + 1) << mantissa_bits);  // subnormal
                 x.push_back(bits >> (round % 8 == 0 ? random.next() % 20 : 0));
             }
             auto mantissas = harness::call(frexp, 16, {x});
