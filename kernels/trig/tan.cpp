@@ -70,8 +70,8 @@ struct LongTangent {
 // ---- The families. -----------------------------------------------------------------------------------------
 
 // Error on the short path: float 4.56 ulp (0x1.5eaaccp+9, all floats tried), native the estimate's, 6146 at the
-// estimate's own bound; double 4.28 (0x40fe7142eb430ee4), native 7.0e5 (0x40f65a1dd290660f, beside a pole). On the long path, over all errors that the
-// estimate may have: float 1.46, native 7; double 4.2 in both classes.
+// estimate's own bound; double 4.28 (0x40fe7142eb430ee4), native 7.0e5 (0x40f65a1dd290660f, beside a pole). On the long
+// path, over all errors that the estimate may have: float 1.46, native 7; double 4.2 in both classes.
 template <class Unit, const auto& record, class Long>
 struct Tangent {
     static Unit main(Unit x) {

@@ -8,7 +8,6 @@
 
 namespace {
 
-
 // A row of the page: | `family` | operands | the built-in | here | because |
 struct Difference {
     std::string family, operands, built_in, here;
