@@ -51,7 +51,7 @@ foreach(source IN LISTS style_sources)
   add_custom_command(
     OUTPUT ${stamp}
     # clang-tidy writes no dependencies, so the preprocessor does.
-    COMMAND ${CMAKE_CXX_COMPILER} ${target_options} -std=c++20 -I${PROJECT_SOURCE_DIR} -I${generated_include}
+    COMMAND ${CMAKE_CXX_COMPILER} ${target_options} -std=c++20 -I${PROJECT_SOURCE_DIR} -I${PROJECT_SOURCE_DIR}/examples -I${generated_include}
             -MM -MT ${stamp} -MF ${stamp}.d ${source}
     COMMAND ${CMAKE_COMMAND} -DCLANG_TIDY=${CLANG_TIDY} -DBUILD=${PROJECT_BINARY_DIR} -DSOURCE=${source}
             -P ${PROJECT_SOURCE_DIR}/cmake/static_checks.cmake

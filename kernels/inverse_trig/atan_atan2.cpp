@@ -25,8 +25,8 @@
 // In rare lanes half an ulp, but for atan2 0.73 beside a subnormal x, atanpi 0.86 and atan2pi 1.64.
 //
 // Accurate atan is complete. The other accurate families hold their bounds where exponents are neither huge nor tiny;
-// zeros, infinities, NaN and the ends of the range are rare. The native class does not look: a NaN comes of infinities,
-// and of a point on the positive y axis, where x = +0 is taken as negative, an angle of 3/4 of a turn.
+// zeros, infinities, NaN and the ends of the range are rare. The native class does not look: infinities, NaN and two
+// zeros give NaN; x = +0 is taken as negative, and a point on the positive y axis gets 3/4 of a turn.
 #include "frame/lane_frame.h"
 #include "kernels/inverse_trig/atan2_rare.h"
 #include "kernels/inverse_trig/atan_data.h"
@@ -44,7 +44,7 @@ inline Unit ratio(Unit y, Unit x, const TrueDivision&) {
 inline F4 ratio(F4 y, F4 x, const NewtonDivision& data) {
     F4 r = reciprocal_estimate(x);
     r = (data.two - x * r) * r;
-    return y * r;
+    return multiply_in_order(y, r);
 }
 
 // rcpps sees the 20 high bits of the significand as a float in [1, 2); the exponent is subtracted beside it. A number
@@ -62,7 +62,7 @@ inline D2 ratio(D2 y, D2 x, const CubicDivision& data) {
     D2 seed = reciprocal_seed(x, data.seed);
     D2 t = x * seed - data.one;
     D2 r = seed + ((t - data.one) * t) * seed;
-    return y * r;
+    return multiply_in_order(y, r);
 }
 
 // e = x R - 1, nearly exact;  1/x ~ R (1 - e + e^2 - e^3 + e^4)
@@ -72,7 +72,7 @@ inline D2 ratio(D2 y, D2 x, const QuinticDivision& data) {
     D2 e = (head * seed - data.one) + tail * seed;
     D2 c = (e - data.one) * e + data.one;
     c = (c * e - data.one) * e;
-    return y * (seed + c * seed);
+    return multiply_in_order(y, seed + c * seed);
 }
 
 // ---- atan r / r. -------------------------------------------------------------------------------------------
@@ -101,9 +101,9 @@ inline Unit atan_slope(Unit r, const OneChain<Lane, terms>& p) {
 // which one they take, and so in the last bit.
 template <class Unit, class Data>
 inline Unit quadrant_angle(Unit y, Unit x, MaskOf<Unit> fold, const Data& data) {
-    // In this order a NaN on either side becomes the denominator.
-    Unit r = ratio(hardware_min(y, x), hardware_max(x, y), data.division);
-    r = or_bits(r, fold & data.sign);
+    // A NaN in y becomes the denominator, one in x the numerator; the sign of a fold is the numerator's, so that a NaN
+    // in the denominator keeps its own.
+    Unit r = ratio(or_bits(hardware_min(y, x), fold & data.sign), hardware_max(x, y), data.division);
     return atan_slope(r, data.polynomial) * r + and_bits(data.quarter_turn, fold);
 }
 

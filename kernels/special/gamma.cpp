@@ -126,7 +126,7 @@ struct SingleDesign {
     static double sine(double f) {
         const TgammafData& data = tgammaf_data;
         double q = f * f;
-        auto quadratic = [&](int i) { return (data.b[i] + q) * q + data.c[i]; };
+        auto quadratic = [q](int i) { return (tgammaf_data.b[i] + q) * q + tgammaf_data.c[i]; };
         double linear = data.linear[0] * q + data.linear[1];
         return f + linear * q * quadratic(0) * quadratic(1) * quadratic(2) * f;
     }

@@ -278,6 +278,19 @@ TEST(ArcTangents, ByTheEstimate) {
 }
 
 // Zeros, infinities and what is between them: an eighth of a turn for each step around, whatever the unit.
+// Quieted, but with the sign and payload that they came with.
+TEST(ArcTangents, KeepNaNs) {
+    const std::vector<harness::Row> floats = {
+        {{0x7fc00000}, {0x7fc00000}}, {{0xffc12345}, {0xffc12345}}, {{0x7f800001}, {0x7fc00001}}};
+    const std::vector<harness::Row> doubles = {{{0x7ff8000000000001}, {0x7ff8000000000001}},
+                                               {{0xfff8123400000000}, {0xfff8123400000000}}};
+    harness::expect_rows("atanf", floats);
+    harness::expect_rows("atanf_native", floats);
+    harness::expect_rows("atan", doubles);
+    // Of two, the denominator's first operand: y less its sign, then negated.
+    harness::expect_rows("atan2f_native", {{{0x7f800001, 0}, {0x7fc00001}}, {{0xffc12345, 0xffabcdef}, {0xffebcdef}}});
+}
+
 TEST(Angles, OfSpecialPoints) {
     using Eighths = std::array<uint64_t, 5>;
     struct Precision {
