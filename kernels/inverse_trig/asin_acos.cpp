@@ -161,7 +161,8 @@ struct Acospi {
     template <class Unit, class Data>
     static Unit of(Unit x, const Data& data) {
         auto argument = acos_argument(x, data);
-        return whole_series(argument.m, data.series) * argument.y + acos_offset(x, argument, data);
+        // In order, as the signs of a NaN may differ.
+        return multiply_in_order(whole_series(argument.m, data.series), argument.y) + acos_offset(x, argument, data);
     }
     static constexpr double at_one = 0, at_minus_one = 1;
 };

@@ -116,7 +116,7 @@ void expect_within(const char* name, double bound, const std::vector<double>& op
         for (size_t lane = 0; lane < 16; ++lane) {
             long double expected = exact(value(lanes[lane]));
             int lowest = family.is_single ? -149 : -1074, digits = family.is_single ? 23 : 52;
-            long double ulp = std::ldexp(1.0L, std::max(std::ilogb(expected) - digits, lowest));
+            long double ulp = std::ldexp(1.0L, std::max(std::ilogb(expected), lowest + digits) - digits);
             EXPECT_LE(std::fabs(value(results[lane]) - expected), bound * ulp) << name << " of " << value(lanes[lane]);
         }
     }
