@@ -1,5 +1,6 @@
 // Every standing export called from OpenCL C: the callers that the library is for. One function an export, with the
-// signature of grid::Call, so that the tests can run through these instead of the C++ calls.
+// signature of grid::Call, so that the tests can run through these instead of the C++ calls. They are weak: the calls
+// of built-ins in overloads.cl, linked beside them, come first.
 #include "include/grid_names.h"
 #include "ocl_zorv_v8.h"
 
@@ -53,10 +54,10 @@
 #define CALL_from_u64(call, f, code, w) ONE(call, f, ulong, w)
 
 #define EXPORT(base, precision, class_, width) EXPORT_NAME(base, precision, class_, width)
-#define CALLER(base, precision, class_, signature, width)                                                        \
-    void PASTE5(opencl_, base, LETTER_##precision, width, CLASS_##class_)(private const void* private* operands, \
-                                                                          private void* private* results) {      \
-        CALL_##signature(EXPORT(base, precision, class_, width), LANE_##precision, CODE_##precision, width)      \
+#define CALLER(base, precision, class_, signature, width)                                                   \
+    __attribute__((weak)) void PASTE5(opencl_, base, LETTER_##precision, width, CLASS_##class_)(            \
+        private const void* private* operands, private void* private* results) {                            \
+        CALL_##signature(EXPORT(base, precision, class_, width), LANE_##precision, CODE_##precision, width) \
     }
 #define FAMILY(base, precision, class_, signature, home, traits, bound) \
     CALLER(base, precision, class_, signature, 1)                       \
