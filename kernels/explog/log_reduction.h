@@ -29,7 +29,6 @@ inline Split split(F4 x, const MantissaSplitData& data) {
 
 // ---- Double precision: y c = 1 + r, where y is the mantissa of x in [2^-10, 2^-9), and c, an integer from 512 to
 // 1024, the hardware's estimate of 1/y. Then log x = log(1 + r) - log(c/1024) + k log 2, k the exponent of x.
-// ------------
 
 struct Reciprocal {
     D2 y, c;
