@@ -13,7 +13,7 @@ file(MAKE_DIRECTORY ${generated_include})
 function(from_grid what output)
   add_custom_command(
     OUTPUT ${output}
-    COMMAND grid_outputs ${what} > ${output}
+    COMMAND $<TARGET_FILE:grid_outputs> ${what} > ${output}  # its name alone would do only where nothing is crossed
     DEPENDS grid_outputs
     COMMENT "From the grid: ${what}")
 endfunction()
