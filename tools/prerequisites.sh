@@ -14,8 +14,8 @@ links_32_bits() {
     local compiler
     for compiler in clang++ g++; do
         command -v $compiler >/dev/null || continue
-        echo '#include <cstdio>
-              int main() { std::puts(""); }' | $compiler -m32 -x c++ - -o /dev/null 2>/dev/null
+        $compiler -m32 -x c++ - -o /dev/null 2>/dev/null <<<'#include <cstdio>
+            int main() { std::puts(""); }'
         return
     done
     compgen -G '/usr/lib/gcc/*/*/32/libstdc++.a' >/dev/null
