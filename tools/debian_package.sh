@@ -35,5 +35,5 @@ dpkg-buildpackage -d -b -uc -us -a "$architecture" >"$package/log" 2>&1 || {
 }
 cd ..
 rm -rf source
-lintian --fail-on error,warning --no-tag-display-limit ./*.changes
+lintian --fail-on error,warning --tag-display-limit 0 ./*.changes
 ls ./*.deb
