@@ -30,6 +30,6 @@ libraries=$(pkg-config --libs ocl_zorv_v8)
 # The flags are words of their own, quoted by pkg-config.
 eval "set -- $flags \"\$source/main.c\" $libraries"
 "$cc" "$@" -o "$scratch/by_pkg_config"
-LD_LIBRARY_PATH=$(pkg-config --variable=libdir ocl_zorv_v8)
+eval "LD_LIBRARY_PATH=$(pkg-config --variable=libdir ocl_zorv_v8)" # quoted likewise
 export LD_LIBRARY_PATH
 expect "$scratch/by_pkg_config"
