@@ -30,5 +30,8 @@ set(pc_libdir "\${prefix}")
 cmake_path(APPEND pc_libdir ${CMAKE_INSTALL_LIBDIR})
 set(pc_includedir "\${prefix}")
 cmake_path(APPEND pc_includedir ${CMAKE_INSTALL_INCLUDEDIR})
+foreach(folder pc_prefix pc_libdir pc_includedir)
+  string(REPLACE " " "\\ " ${folder} "${${folder}}")  # as pkg-config has it
+endforeach()
 configure_file(cmake/ocl_zorv_v8.pc.in ocl_zorv_v8.pc @ONLY)
 install(FILES ${PROJECT_BINARY_DIR}/ocl_zorv_v8.pc DESTINATION ${pkgconfig_folder})

@@ -36,7 +36,7 @@ expect_file "$scratch/absolute.root/opt/zorv/lib32/__ocl_zorv_v8.so"
 expect_file "$scratch/absolute.root/usr/include/ocl_zorv_v8.h"
 expect_file "$pc"
 for folder in libdir=/opt/zorv/lib32 includedir=/usr/include; do
-    value=$(pkg-config --variable="${folder%%=*}" "$pc")
+    value=$(PKG_CONFIG_LIBDIR=$(dirname "$pc") pkg-config --variable="${folder%%=*}" ocl_zorv_v8)
     if [ "$value" != "${folder#*=}" ]; then
         echo "$pc has ${folder%%=*}=$value instead of ${folder#*=}"
         exit 1
