@@ -432,7 +432,9 @@ void print_builtins() {
         "\n"
         "#include \"ocl_zorv_v8.h\"\n"
         "\n"
-        "#define OVERLOAD static inline __attribute__((overloadable, always_inline))");
+        "/* Always inlined and never emitted: an overload may stand beside a declaration that the run-time has made of\n"
+        " * the same built-in, and takes its place. */\n"
+        "#define OVERLOAD extern inline __attribute__((overloadable, always_inline, gnu_inline))");
     string last;
     for (const Family& family : families) {
         auto conversion = conversions.find(family.base);
