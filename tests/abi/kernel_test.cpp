@@ -5,13 +5,16 @@
 #include <cmath>
 #include <vector>
 
-#define EACH_WIDTH(macro, lane) macro(lane, , 1, 1) macro(lane, 3, 3, 4) macro(lane, 16, 16, 16)
-#define DECLARE(lane, width, lanes, stride)                                      \
-    void scalars_##lane##width(const lane* x, lane limit, int n, lane* results); \
-    void spaces_##lane##width(const lane* x, const lane* y, int* quotient, int* exponent, lane* whole, lane* cosine);
+#define EACH_KERNEL(macro, lane)                                                                                       \
+    macro(lane, , 1, 1, named) macro(lane, 3, 3, 4, named) macro(lane, 16, 16, 16, named) macro(lane, , 1, 1, generic) \
+        macro(lane, 3, 3, 4, generic) macro(lane, 16, 16, 16, generic)
+#define DECLARE(lane, width, lanes, stride, pointers)                                                               \
+    void scalars_##pointers##_##lane##width(const lane* x, lane limit, int n, lane* results);                       \
+    void spaces_##pointers##_##lane##width(const lane* x, const lane* y, int* quotient, int* exponent, lane* whole, \
+                                           lane* cosine);
 extern "C" {
-EACH_WIDTH(DECLARE, float)
-EACH_WIDTH(DECLARE, double)
+EACH_KERNEL(DECLARE, float)
+EACH_KERNEL(DECLARE, double)
 void without_exponent(int* named);
 }
 
@@ -24,9 +27,10 @@ struct Width {
     void (*scalars)(const Lane*, Lane, int, Lane*);
     void (*spaces)(const Lane*, const Lane*, int*, int*, Lane*, Lane*);
 };
-#define WIDTH(lane, width, lanes, stride) {lanes, stride, scalars_##lane##width, spaces_##lane##width},
-const std::vector<Width<float>> float_widths = {EACH_WIDTH(WIDTH, float)};
-const std::vector<Width<double>> double_widths = {EACH_WIDTH(WIDTH, double)};
+#define WIDTH(lane, width, lanes, stride, pointers) \
+    {lanes, stride, scalars_##pointers##_##lane##width, spaces_##pointers##_##lane##width},
+const std::vector<Width<float>> float_widths = {EACH_KERNEL(WIDTH, float)};
+const std::vector<Width<double>> double_widths = {EACH_KERNEL(WIDTH, double)};
 
 template <class Lane>
 void expect_scalars_for_each_lane(const std::vector<Width<Lane>>& widths) {
