@@ -49,4 +49,13 @@ __kernel void without_exponent(__global int* named) {
     named[0] = ilogb(0.0f) == FP_ILOGB0 && ilogb(-0.0) == FP_ILOGB0;
     named[1] = ilogb(NAN) == FP_ILOGBNAN && ilogb((double)NAN) == FP_ILOGBNAN;
 }
+
+// Conversions that the header makes itself.
+__kernel void plain_conversions(__global const uchar3* bytes, __global const double3* reals, __global float3* results,
+                                __global int3* integers) {
+    results[0] = convert_float3(*bytes);
+    results[1] = convert_float3(*reals);
+    integers[0] = convert_int3(as_char3(*bytes));
+    integers[1] = convert_int3(convert_long3(*bytes) << 31);
+}
 #endif

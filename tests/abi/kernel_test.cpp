@@ -2,6 +2,7 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <climits>
 #include <cmath>
 #include <vector>
 
@@ -16,6 +17,7 @@ extern "C" {
 EACH_KERNEL(DECLARE, float)
 EACH_KERNEL(DECLARE, double)
 void without_exponent(int* named);
+void plain_conversions(const unsigned char* bytes, const double* reals, float* results, int* integers);
 }
 
 namespace {
@@ -80,6 +82,22 @@ TEST(Kernel, NamesOfWhatHasNoExponent) {
     int named[2] = {};
     without_exponent(named);
     EXPECT_TRUE(named[0] && named[1]);
+}
+
+TEST(Kernel, ConversionsOfItsOwn) {
+    alignas(4) const unsigned char bytes[4] = {1, 127, 255, 0};
+    alignas(32) const double reals[4] = {-0.0, 0x1.000001p0, 0x1.000003p0, 0};
+    alignas(16) float results[8];
+    alignas(16) int integers[8];
+    plain_conversions(bytes, reals, results, integers);
+    const float to_nearest[] = {-0.0f, 1, 0x1.000004p0f};
+    for (size_t i = 0; i < 3; ++i) {
+        EXPECT_EQ(static_cast<float>(bytes[i]), results[i]);
+        EXPECT_EQ(to_nearest[i], results[4 + i]);
+        EXPECT_EQ(static_cast<signed char>(bytes[i]), integers[i]);
+        EXPECT_EQ(INT_MIN, integers[4 + i]);
+    }
+    EXPECT_TRUE(std::signbit(results[4]));
 }
 
 }  // namespace
