@@ -1,27 +1,44 @@
 # Sourced by ./demo, ./check and .ci/run: finds out what a machine lacks and installs it, or says how to.
 # shellcheck shell=bash
 
+oldest_clang=14
+
+# The version of a command of clang's, or nothing where it is missing.
+clang_version() {
+    local version
+    version=$("$1" -dumpversion 2>/dev/null) && echo "${version%%.*}"
+}
+
+# Can a 32-bit C++ program be built? With the compiler that is there: clang is looked for apart.
+links_32_bits() {
+    local compiler
+    for compiler in clang++ g++; do
+        command -v $compiler >/dev/null || continue
+        $compiler -m32 -x c++ - -o /dev/null 2>/dev/null <<<'#include <cstdio>
+            int main() { std::puts(""); }'
+        return
+    done
+    compgen -G '/usr/lib/gcc/*/*/32/libstdc++.a' >/dev/null
+}
+
 # Does the machine have what this Debian package brings? Found by using it, so another system's package counts too.
 have() {
     local libraries=/usr/lib/i386-linux-gnu
     case $1 in
-    clang)
-        command -v clang++ >/dev/null && [ "$(clang -dumpversion | cut -d. -f1)" -ge 14 ]
-        ;;
-    g++-multilib)
-        command -v clang++ >/dev/null &&
-            echo '#include <cstdio>
-                  int main() { std::puts(""); }' | clang++ -m32 -x c++ - -o /dev/null 2>/dev/null
-        ;;
-    ninja-build) command -v ninja >/dev/null ;;
-    gnuplot-nox) command -v gnuplot >/dev/null ;;
+    clang) [ "$(clang_version clang)" -ge $oldest_clang ] && [ "$(clang_version clang++)" -ge $oldest_clang ] ;;
+    g++-multilib) links_32_bits ;;
+    ninja-build) command -v ninja ;;
+    gnuplot-nox) command -v gnuplot ;;
+    dpkg-dev) command -v dpkg-buildpackage ;;
+    debhelper) command -v dh ;;
+    binutils-i686-linux-gnu) command -v i686-linux-gnu-objcopy ;;
     libgtest-dev:i386) [ -e $libraries/libgtest.a ] ;;
     libbenchmark-dev:i386) [ -e $libraries/libbenchmark.a ] || [ -e $libraries/libbenchmark.so ] ;;
     libmpfr-dev:i386) [ -e $libraries/libmpfr.so ] && [ -e $libraries/libgmp.so ] ;;
     libsleef-dev:i386) [ -e $libraries/libsleef.so ] ;;
     libxsimd-dev) [ -d /usr/include/xsimd ] ;;
-    *) command -v "$1" >/dev/null ;;
-    esac
+    *) command -v "$1" ;;
+    esac >/dev/null 2>&1
 }
 
 # Prints those of the packages that are missing.
@@ -30,6 +47,22 @@ missing() {
     for package in "$@"; do
         have "$package" || printf '%s ' "$package"
     done
+}
+
+# Says what is missing, and of what too old a version is there.
+say_missing() {
+    local version
+    echo "$1: $2"
+    case " $2" in *" clang "*) ;; *) return ;; esac
+    version=$(clang_version clang || clang_version clang++ || true)
+    if [ -z "$version" ]; then
+        return
+    elif [ "$version" -lt $oldest_clang ]; then
+        echo "  clang $version found, $oldest_clang needed"
+    else
+        echo "  clang and clang++ are both needed: clang is $(clang_version clang || echo missing)," \
+            "clang++ is $(clang_version clang++ || echo missing)"
+    fi
 }
 
 how_to_install() {
@@ -44,7 +77,7 @@ require() {
     local lacking
     lacking=$(missing "$@")
     [ -z "$lacking" ] && return
-    echo "Missing: $lacking"
+    say_missing "Missing" "$lacking"
     if [ "$(id -u)" != 0 ]; then
         echo "Only root can install packages, and this is $(id -un)."
         how_to_install "$lacking"
@@ -63,7 +96,7 @@ require() {
     lacking=$(missing "$@")
     if [ -n "$lacking" ]; then
         echo
-        echo "Still missing: $lacking"
+        say_missing "Still missing" "$lacking"
         echo "Is the network there, and does the mirror have the i386 architecture?"
         how_to_install "$lacking"
         exit 1

@@ -64,10 +64,10 @@ template <class Lane, class Division, class Polynomial, class Range>
 struct ArctangentData {
     Slot<std::conditional_t<sizeof(Lane) == 4, int32_t, int64_t>> sign;
     Slot<Lane> one;
-    [[no_unique_address]] Division division;
+    [[no_unique_address]] Division division = {};
     Polynomial polynomial;
     Slot<Lane> quarter_turn, half_turn;  // in the unit of the result
-    [[no_unique_address]] Range range;
+    [[no_unique_address]] Range range = {};
 };
 
 using AtanfData = ArctangentData<float, TrueDivision, EvenOdd<float, 5, 4>, WorkingRange>;

@@ -59,8 +59,8 @@ bool reads_own_address(const Instruction& i, const std::string& function) {
 }
 // The last operand is the destination; compares and jumps have none.
 bool stores_to_memory(const Instruction& i) {
-    static const std::set<std::string> reading = {"cmp", "cmpl", "test", "testb", "testl", "bt",  "call",
-                                                  "jmp", "push", "flds", "fldl",  "nopl",  "nopw"};
+    static const std::set<std::string> reading = {"cmp", "cmpl", "test", "testb", "testl", "bt",   "call",
+                                                  "jmp", "push", "flds", "fldl",  "nopl",  "nopw", "data16"};
     if (reading.contains(i.mnemonic) || is_conditional_jump(i) || i.operands.empty()) return false;
     int depth = 0;
     size_t destination = 0;

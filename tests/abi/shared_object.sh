@@ -28,4 +28,9 @@ readelf -lW "$library" | grep -q 'GNU_STACK.* RW ' || complain "executable stack
 writable=$(readelf -SW "$library" | sed 's/^ *\[ *[0-9]*\] *//' | awk '$7 ~ /W/ || $8 ~ /W/ {print $1}' |
   grep -vE '^\.(dynamic|got|got\.plt)$' || true)
 [ -z "$writable" ] || complain "writable sections: $writable"
+
+# Nothing is called that is not in the file and known beforehand, and nothing of the system.
+objdump -d --no-show-raw-insn "$library" > "$scratch/code"
+strays=$(grep -cE '\s(call|jmp) +\*|\s(int|sysenter|syscall)\b' "$scratch/code" || true)
+[ "$strays" = 0 ] || complain "$strays calls through pointers or of the system"
 exit $failed

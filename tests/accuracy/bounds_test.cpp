@@ -5,6 +5,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <iterator>
 
 #include "tools/accuracy_sweep.h"
 
@@ -22,11 +23,10 @@ bool has_witness(const grid::Family& family) {
 }
 
 template <class Choose>
-std::vector<const grid::Family*> families_where(Choose choose) {
-    std::vector<const grid::Family*> list;
-    for (const grid::Family& family : grid::families())
-        if (choose(family)) list.push_back(&family);
-    return list;
+std::vector<grid::Family> families_where(Choose choose) {
+    std::vector<grid::Family> chosen;
+    std::ranges::copy_if(grid::families(), std::back_inserter(chosen), choose);
+    return chosen;
 }
 
 Range range_of(const grid::Family& family, const Place& place) {
@@ -45,11 +45,11 @@ std::vector<Finding> findings_of(const grid::Family& family) {
     return findings;
 }
 
-class Bounds : public testing::TestWithParam<const grid::Family*> {};
+class Bounds : public testing::TestWithParam<grid::Family> {};
 class BoundsWithWitness : public Bounds {};
 
 TEST_P(Bounds, HoldOverASampleOfEachRange) {
-    const grid::Family& family = *GetParam();
+    const grid::Family& family = GetParam();
     for (const Range& range : accuracy::ranges_of(family)) {
         for (int width : {1, 2, 4, 8, 16}) {
             if (range.width ? width != range.width : range.beside && width == 1) continue;
@@ -63,21 +63,21 @@ TEST_P(Bounds, HoldOverASampleOfEachRange) {
 }
 
 TEST_P(Bounds, HoldAtTheWorstOperandsKnown) {
-    const grid::Family& family = *GetParam();
+    const grid::Family& family = GetParam();
     for (const Finding& finding : findings_of(family))
         EXPECT_LE(finding.error, accuracy::bound_of(family, range_of(family, finding.place)))
             << std::hex << finding.operand(0);
 }
 
 TEST_P(BoundsWithWitness, AreReachedByTheWorstOperandsKnown) {
-    const grid::Family& family = *GetParam();
+    const grid::Family& family = GetParam();
     double worst = 0;
     for (const Finding& finding : findings_of(family)) worst = std::max(worst, finding.error);
     EXPECT_GE(worst, 0.9 * family.bound) << "a loose bound, or worst operands to be found anew: accuracy "
                                          << family.name << " --worst tests/worst";
 }
 
-std::string name_of(const testing::TestParamInfo<const grid::Family*>& info) { return info.param->name; }
+std::string name_of(const testing::TestParamInfo<grid::Family>& info) { return info.param.name; }
 
 INSTANTIATE_TEST_SUITE_P(Family, Bounds, testing::ValuesIn(families_where(accuracy::has_reference)), name_of);
 INSTANTIATE_TEST_SUITE_P(Family, BoundsWithWitness, testing::ValuesIn(families_where(has_witness)), name_of);

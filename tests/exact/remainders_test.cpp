@@ -57,7 +57,7 @@ bool is_exempt(const grid::Family& family, double x, double y) {
     return std::fabs(y) < 2 * smallest && std::fabs(y) >= smallest;
 }
 
-class Remainders : public testing::TestWithParam<const char*> {};
+class Remainders : public testing::TestWithParam<std::string> {};
 INSTANTIATE_TEST_SUITE_P(Exact, Remainders,
                          testing::Values("fmodf", "fmod", "remainderf", "remainder", "remquof", "remquo"));
 
