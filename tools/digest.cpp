@@ -152,7 +152,7 @@ class Random {
     uint64_t state_ = 0xcbf29ce484222325;
 };
 
-enum class Mood { moderate, unit, wide, huge, any, special, integral, count };
+enum class Mood { moderate, unit, wide, huge, any, special, integral, nan, count };
 
 // In single precision; doubles take the same exponents' extremes by their own fields.
 uint64_t special(Kind kind, Random& random) {
@@ -204,6 +204,8 @@ uint64_t draw(Kind kind, Mood mood, Random& random) {
             return scaled(-bias + 1, bias);
         case Mood::integral:
             return floating(static_cast<double>(random.below(400)) / 2 - 100);
+        case Mood::nan:  // of any sign and payload: which of two comes out tells the order of operands
+            return scaled(bias + 1, bias + 1) | 1;
         case Mood::special:
             return special(kind, random);
         case Mood::any:
