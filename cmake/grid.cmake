@@ -20,13 +20,18 @@ endfunction()
 from_grid(header ${generated_include}/ocl_zorv_v8.h)
 from_grid(builtins ${generated_include}/ocl_zorv_v8_builtins.h)
 from_grid(version_script ${version_script})
-add_custom_target(headers
+add_custom_target(ocl_zorv_v8_headers
   DEPENDS ${generated_include}/ocl_zorv_v8.h ${generated_include}/ocl_zorv_v8_builtins.h ${version_script})
 
-# After a change of the grid or of what the operations are: cmake --build ... --target readme
-add_custom_target(readme
-  COMMAND grid_outputs readme < ${PROJECT_SOURCE_DIR}/README.md > ${PROJECT_BINARY_DIR}/README.md
-  COMMAND ${CMAKE_COMMAND} -E copy ${PROJECT_BINARY_DIR}/README.md ${PROJECT_SOURCE_DIR}/README.md
-  COMMAND grid_outputs families > ${PROJECT_SOURCE_DIR}/docs/families.md
-  COMMENT "The README's table and docs/families.md from the grid"
-  VERBATIM)
+if(PROJECT_IS_TOP_LEVEL)
+  add_custom_target(headers)
+  add_dependencies(headers ocl_zorv_v8_headers)
+
+  # After a change of the grid or of what the operations are: cmake --build ... --target readme
+  add_custom_target(readme
+    COMMAND grid_outputs readme < ${PROJECT_SOURCE_DIR}/README.md > ${PROJECT_BINARY_DIR}/README.md
+    COMMAND ${CMAKE_COMMAND} -E copy ${PROJECT_BINARY_DIR}/README.md ${PROJECT_SOURCE_DIR}/README.md
+    COMMAND grid_outputs families > ${PROJECT_SOURCE_DIR}/docs/families.md
+    COMMENT "The README's table and docs/families.md from the grid"
+    VERBATIM)
+endif()

@@ -53,7 +53,7 @@ foreach(source IN LISTS style_sources)
     COMMAND ${CMAKE_COMMAND} -DCLANG_TIDY=${CLANG_TIDY} -DBUILD=${PROJECT_BINARY_DIR} -DSOURCE=${source}
             -P ${PROJECT_SOURCE_DIR}/cmake/static_checks.cmake
     COMMAND ${CMAKE_COMMAND} -E touch ${stamp}
-    DEPENDS ${source} .clang-tidy cmake/static_checks.cmake headers
+    DEPENDS ${source} .clang-tidy cmake/static_checks.cmake ocl_zorv_v8_headers
     DEPFILE ${stamp}.d
     COMMENT "Checks of ${name}" VERBATIM)
   list(APPEND stamps ${stamp})
