@@ -20,6 +20,13 @@ namespace {
 
 using std::string;
 
+// The program is built for the target that it prints for. The headers serve both.
+#ifdef __x86_64__
+constexpr bool on_x86_64 = true;
+#else
+constexpr bool on_x86_64 = false;
+#endif
+
 struct Family {
     string base, precision, accuracy_class, signature;
     double bound;
@@ -31,6 +38,12 @@ struct Family {
     string export_name(int width) const {
         return "__ocl_zorv_v8_" + base + letter() + std::to_string(width) + suffix();
     }
+    // On x86-64 vectors of more than 16 bytes travel as structures of units, under a symbol of their own.
+    bool is_wide(int width) const {
+        bool has_long_lanes = precision == "double_" || signature.ends_with("i64") || signature.ends_with("u64");
+        return width * (has_long_lanes ? 8 : 4) > 16;
+    }
+    string symbol(int width) const { return export_name(width) + (on_x86_64 && is_wide(width) ? "_units" : ""); }
 };
 
 const std::vector<Family> families = {
@@ -282,6 +295,118 @@ void print_vector_types() {
     std::puts("#endif");
 }
 
+// ---- Long vectors on x86-64: the types that they travel in, the exports, and the wrappers around these. ----------
+
+// A vector type in its units: float16 in .s0123, .s4567, .s89ab, .scdef.
+struct InUnits {
+    string lane;
+    int width;
+
+    string name() const { return lane + std::to_string(width); }
+    string unit() const { return lane + std::to_string(lanes_of_a_unit()); }
+    int lanes_of_a_unit() const { return lane == "float" || lane == "int" || lane == "uint" ? 4 : 2; }
+    int count() const { return width / lanes_of_a_unit(); }
+    string lanes(int unit) const {
+        return string("0123456789abcdef")
+            .substr(static_cast<size_t>(unit * lanes_of_a_unit()), static_cast<size_t>(lanes_of_a_unit()));
+    }
+};
+
+void print_types_of_units() {
+    for (const string& lane : lanes)
+        for (int width : {4, 8, 16}) {
+            InUnits v{lane, width};
+            string type = v.name();
+            if (v.count() == 1) {  // a unit, beside longer vectors
+                std::printf("typedef __ocl_zorv_v8_%s __ocl_zorv_v8_%s_units;\n"
+                            "#define __ocl_zorv_v8_split_%s(x) x\n#define __ocl_zorv_v8_join_%s(x) x\n",
+                            type.c_str(), type.c_str(), type.c_str(), type.c_str());
+                continue;
+            }
+            string members, split, join;
+            for (int i = 0; i < v.count(); ++i) {
+                string comma = i ? ", " : "", unit = "unit" + std::to_string(i);
+                members += comma + unit;
+                split += comma + "__x.s" + v.lanes(i);
+                join += " __x.s" + v.lanes(i) + " = __y." + unit + ";";
+            }
+            std::printf("typedef struct { __ocl_zorv_v8_%s %s; } __ocl_zorv_v8_%s_units;\n"
+                        "__ZORV_TYPE(%s) {\n    __ocl_zorv_v8_%s_units __y = {%s};\n    return __y;\n}\n"
+                        "__ZORV_TYPE_BACK(%s) {\n    __ocl_zorv_v8_%s __x;\n   %s\n    return __x;\n}\n",
+                        v.unit().c_str(), members.c_str(), type.c_str(), type.c_str(), type.c_str(), split.c_str(),
+                        type.c_str(), type.c_str(), join.c_str());
+        }
+    for (const char* lane : {"float", "double"})
+        for (int width : widths) {
+            if (width * (lane[0] == 'f' ? 4 : 8) <= 16) continue;
+            string type = lane + std::to_string(width == 3 ? 4 : width), pair = lane + std::to_string(width) + "_pair";
+            std::printf("typedef struct { __ocl_zorv_v8_%s_units sine, cosine; } __ocl_zorv_v8_%s_units;\n"
+                        "__ZORV_TYPE_BACK(%s) {\n    __ocl_zorv_v8_%s __x = {__ocl_zorv_v8_join_%s(__y.sine), "
+                        "__ocl_zorv_v8_join_%s(__y.cosine)};\n    return __x;\n}\n",
+                        type.c_str(), pair.c_str(), pair.c_str(), pair.c_str(), type.c_str(), type.c_str());
+        }
+}
+
+void print_wrappers() {
+    std::puts("\n#ifdef __x86_64__\n"
+              "#define __ZORV_TYPE(type) \\\n"
+              "    __ZORV_WRAPPER __ocl_zorv_v8_##type##_units __ocl_zorv_v8_split_##type(__ocl_zorv_v8_##type __x)\n"
+              "#define __ZORV_TYPE_BACK(type) \\\n"
+              "    __ZORV_WRAPPER __ocl_zorv_v8_##type __ocl_zorv_v8_join_##type(__ocl_zorv_v8_##type##_units __y)");
+    print_types_of_units();
+    std::puts(
+        "#define __ZORV_VECTOR(type) __ocl_zorv_v8_##type\n"
+        "#define __ZORV_UNITS(type) __ocl_zorv_v8_##type##_units\n"
+        "#define __ZORV_SPLIT(type, x) __ocl_zorv_v8_split_##type(x)\n"
+        "#define __ZORV_EXPORTED(result, name, ...) \\\n"
+        "    __attribute__((regcall)) __ZORV_UNITS(result) name##_units(__VA_ARGS__) __asm__(#name \"_units\");\n"
+        "#define __ZORV_WRAP_1(result, name, x) \\\n"
+        "    __ZORV_EXPORTED(result, name, __ZORV_UNITS(x)) \\\n"
+        "    __ZORV_WRAPPER __ZORV_VECTOR(result) name(__ZORV_VECTOR(x) __a) { \\\n"
+        "        return __ocl_zorv_v8_join_##result(name##_units(__ZORV_SPLIT(x, __a))); \\\n"
+        "    }\n"
+        "#define __ZORV_WRAP_2(result, name, x, y) \\\n"
+        "    __ZORV_EXPORTED(result, name, __ZORV_UNITS(x), __ZORV_UNITS(y)) \\\n"
+        "    __ZORV_WRAPPER __ZORV_VECTOR(result) name(__ZORV_VECTOR(x) __a, __ZORV_VECTOR(y) __b) { \\\n"
+        "        return __ocl_zorv_v8_join_##result(name##_units(__ZORV_SPLIT(x, __a), __ZORV_SPLIT(y, __b))); \\\n"
+        "    }\n"
+        "#define __ZORV_WRAP_3(result, name, x, y, z) \\\n"
+        "    __ZORV_EXPORTED(result, name, __ZORV_UNITS(x), __ZORV_UNITS(y), __ZORV_UNITS(z)) \\\n"
+        "    __ZORV_WRAPPER __ZORV_VECTOR(result) name(__ZORV_VECTOR(x) __a, __ZORV_VECTOR(y) __b, "
+        "__ZORV_VECTOR(z) __c) { \\\n"
+        "        return __ocl_zorv_v8_join_##result( \\\n"
+        "            name##_units(__ZORV_SPLIT(x, __a), __ZORV_SPLIT(y, __b), __ZORV_SPLIT(z, __c))); \\\n"
+        "    }\n"
+        "#define __ZORV_WRAP_1_POINTER(result, name, x, pointer) \\\n"
+        "    __ZORV_EXPORTED(result, name, __ZORV_UNITS(x), __ZORV_VECTOR(pointer) *) \\\n"
+        "    __ZORV_WRAPPER __ZORV_VECTOR(result) name(__ZORV_VECTOR(x) __a, __ZORV_VECTOR(pointer) *__p) { \\\n"
+        "        return __ocl_zorv_v8_join_##result(name##_units(__ZORV_SPLIT(x, __a), __p)); \\\n"
+        "    }\n"
+        "#define __ZORV_WRAP_2_POINTER(result, name, x, y, pointer) \\\n"
+        "    __ZORV_EXPORTED(result, name, __ZORV_UNITS(x), __ZORV_UNITS(y), __ZORV_VECTOR(pointer) *) \\\n"
+        "    __ZORV_WRAPPER __ZORV_VECTOR(result) name(__ZORV_VECTOR(x) __a, __ZORV_VECTOR(y) __b, "
+        "__ZORV_VECTOR(pointer) *__p) { \\\n"
+        "        return __ocl_zorv_v8_join_##result(name##_units(__ZORV_SPLIT(x, __a), __ZORV_SPLIT(y, __b), __p)); "
+        "\\\n"
+        "    }");
+    auto bare = [](const string& lane, int width) { return lane + std::to_string(width == 3 ? 4 : width); };
+    for (const Family& family : families)
+        for (int width : widths) {
+            if (!family.is_wide(width)) continue;
+            Signature s = signature_of(family);
+            string words = s.pair ? s.result + std::to_string(width) + "_pair" : bare(s.result, width);
+            words += ", " + family.export_name(width);
+            for (const string& operand : s.operands) words += ", " + bare(operand, width);
+            if (!s.pointer.empty()) words += ", " + bare(s.pointer, width);
+            std::printf("__ZORV_WRAP_%zu%s(%s)\n", s.operands.size(), s.pointer.empty() ? "" : "_POINTER",
+                        words.c_str());
+        }
+    for (const char* macro : {"TYPE", "TYPE_BACK", "VECTOR", "UNITS", "SPLIT", "EXPORTED", "WRAP_1", "WRAP_2", "WRAP_3",
+                              "WRAP_1_POINTER", "WRAP_2_POINTER"})
+        std::printf("#undef __ZORV_%s\n", macro);
+    std::puts("#endif");
+}
+
 void print_header() {
     std::puts(
         "/* Vectorised math kernels for OpenCL run-times: the exported functions.\n"
@@ -301,10 +426,10 @@ void print_header() {
         "\n"
         "#ifdef __OPENCL_CPP_VERSION__\n"
         "#error \"ocl_zorv_v8.h is for C, C++ and OpenCL C, not for C++ for OpenCL\"\n"
-        "#elif !defined(__clang__) || !defined(__i386__) || !defined(__SSE2__)\n"
-        "#error \"ocl_zorv_v8.h needs clang with -m32 -msse2: the functions follow its convention for vector "
+        "#elif !defined(__clang__) || !(defined(__i386__) || defined(__x86_64__)) || !defined(__SSE2__)\n"
+        "#error \"ocl_zorv_v8.h needs clang for x86 with SSE2: the functions follow its convention for vector "
         "operands\"\n"
-        "#elif defined(__AVX__)\n"
+        "#elif defined(__i386__) && defined(__AVX__)\n"
         "#error \"ocl_zorv_v8.h needs -mno-avx: with AVX clang passes vectors of more than 16 bytes in ymm registers, "
         "where the functions neither look nor return\"\n"
         "#elif defined(__OPENCL_C_VERSION__) && !defined(cl_khr_fp64) && !defined(__opencl_c_fp64)\n"
@@ -312,8 +437,22 @@ void print_header() {
         "#else\n"
         "#define OCL_ZORV_V8_H\n");
     print_vector_types();
-    std::puts("\n#ifdef __cplusplus\nextern \"C\" {\n#pragma clang diagnostic push\n"
-              "#pragma clang diagnostic ignored \"-Wreturn-type-c-linkage\"\n#endif");
+    std::puts(
+        "\n/* On x86-64 a vector of more than 16 bytes would travel as the caller's instruction set has it. The "
+        "functions\n"
+        " * marked so are wrappers, always inlined: to the library such vectors go as structures of their units. */\n"
+        "#ifdef __x86_64__\n"
+        "#define __ZORV_WRAPPER static inline __attribute__((always_inline, unused))\n"
+        "#else\n"
+        "#define __ZORV_WRAPPER\n"
+        "#endif\n"
+        "\n"
+        "#pragma clang diagnostic push\n"
+        "#pragma clang diagnostic ignored \"-Wpsabi\"\n"
+        "#ifdef __cplusplus\n"
+        "#pragma clang diagnostic ignored \"-Wreturn-type-c-linkage\"\n"
+        "extern \"C\" {\n"
+        "#endif");
     for (const Family& family : families) {
         About about_it = about(family);
         std::puts("");
@@ -322,10 +461,11 @@ void print_header() {
         for (int width : widths) {
             comment("/**", {operation_of(family).what + ". " + unit_text(family) + width_text(family, width),
                             about_it.special, error_text(family)});
-            std::puts(declaration(family, width).c_str());
+            std::printf("%s%s\n", family.is_wide(width) ? "__ZORV_WRAPPER " : "", declaration(family, width).c_str());
         }
     }
-    std::puts("\n#ifdef __cplusplus\n#pragma clang diagnostic pop\n}\n#endif\n\n#endif\n#endif");
+    print_wrappers();
+    std::puts("\n#undef __ZORV_WRAPPER\n#ifdef __cplusplus\n}\n#endif\n#pragma clang diagnostic pop\n\n#endif\n#endif");
 }
 
 // ---- OpenCL C built-ins. -----------------------------------------------------------------------------------
@@ -555,6 +695,7 @@ void print_builtins() {
         "#ifdef cl_khr_fp16\n"
         "#pragma OPENCL EXTENSION cl_khr_fp16 : enable\n"
         "#endif\n"
+        "#pragma clang diagnostic ignored \"-Wpsabi\" /* calls of what follows: all are inlined */\n"
         "\n"
         "/* Always inlined and never emitted: an overload may stand beside a declaration that the run-time has made "
         "of\n"
@@ -597,7 +738,7 @@ void print_builtins() {
 void print_version_script() {
     std::puts("{\n  global:");
     for (const Family& family : families)
-        for (int width : widths) std::printf("    %s;\n", family.export_name(width).c_str());
+        for (int width : widths) std::printf("    %s;\n", family.symbol(width).c_str());
     std::puts("  local: *;\n};");
 }
 
