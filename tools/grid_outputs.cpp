@@ -20,6 +20,13 @@ namespace {
 
 using std::string;
 
+// The program is built for the target that it prints for. The headers serve both.
+#ifdef __x86_64__
+constexpr bool on_x86_64 = true;
+#else
+constexpr bool on_x86_64 = false;
+#endif
+
 struct Family {
     string base, precision, accuracy_class, signature;
     double bound;
@@ -31,6 +38,12 @@ struct Family {
     string export_name(int width) const {
         return "__ocl_zorv_v8_" + base + letter() + std::to_string(width) + suffix();
     }
+    // On x86-64 vectors of more than 16 bytes travel as structures of units, under a symbol of their own.
+    bool is_wide(int width) const {
+        bool has_long_lanes = precision == "double_" || signature.ends_with("i64") || signature.ends_with("u64");
+        return width * (has_long_lanes ? 8 : 4) > 16;
+    }
+    string symbol(int width) const { return export_name(width) + (on_x86_64 && is_wide(width) ? "_units" : ""); }
 };
 
 const std::vector<Family> families = {
@@ -221,6 +234,113 @@ string lanes_text(const Family& family) {
 
 // ---- Outputs. ----------------------------------------------------------------------------------------------
 
+// A vector type in its units: float16 in .s0123, .s4567, .s89ab, .scdef.
+struct InUnits {
+    string lane;
+    int width;
+
+    string vector() const { return lane + std::to_string(width); }
+    string unit() const { return lane + std::to_string(lanes_of_a_unit()); }
+    int lanes_of_a_unit() const { return lane == "float" || lane == "int" || lane == "uint" ? 4 : 2; }
+    int count() const { return width / lanes_of_a_unit(); }
+    string lanes(int unit) const {
+        return string("0123456789abcdef")
+            .substr(static_cast<size_t>(unit * lanes_of_a_unit()), static_cast<size_t>(lanes_of_a_unit()));
+    }
+};
+
+void print_types_of_units() {
+    for (const char* lane : {"float", "double", "int", "uint", "long", "ulong"})
+        for (int width : {4, 8, 16}) {
+            InUnits v{lane, width};
+            string type = v.vector(), units = type + "_units";
+            if (v.count() == 1) {  // beside a longer one
+                std::printf("typedef %s %s;\n#define OCL_ZORV_V8_SPLIT_%s(x) x\n#define OCL_ZORV_V8_JOIN_%s(x) x\n",
+                            type.c_str(), units.c_str(), type.c_str(), type.c_str());
+                continue;
+            }
+            string members, split, join;
+            for (int i = 0; i < v.count(); ++i) {
+                string comma = i ? ", " : "", unit = "unit" + std::to_string(i);
+                members += comma + unit;
+                split += comma + "x.s" + v.lanes(i);
+                join += " x.s" + v.lanes(i) + " = units." + unit + ";";
+            }
+            std::printf("typedef struct { %s %s; } %s;\n", v.unit().c_str(), members.c_str(), units.c_str());
+            std::printf("static inline __attribute__((always_inline, unused)) %s OCL_ZORV_V8_SPLIT_%s(%s x) {\n"
+                        "    %s units = {%s};\n    return units;\n}\n",
+                        units.c_str(), type.c_str(), type.c_str(), units.c_str(), split.c_str());
+            std::printf("static inline __attribute__((always_inline, unused)) %s OCL_ZORV_V8_JOIN_%s(%s units) {\n"
+                        "    %s x;\n   %s\n    return x;\n}\n",
+                        type.c_str(), type.c_str(), units.c_str(), type.c_str(), join.c_str());
+        }
+    for (const char* lane : {"float", "double"})
+        for (int width : widths) {
+            if (width * (lane[0] == 'f' ? 4 : 8) <= 16) continue;
+            string type = vector(lane, width), pair = lane + std::to_string(width) + "_pair";
+            std::printf("typedef struct { %s_units sine, cosine; } %s_units;\n", type.c_str(), pair.c_str());
+            std::printf(
+                "static inline __attribute__((always_inline, unused)) %s OCL_ZORV_V8_JOIN_%s(%s_units units) {\n"
+                "    %s both = {OCL_ZORV_V8_JOIN_%s(units.sine), OCL_ZORV_V8_JOIN_%s(units.cosine)};\n"
+                "    return both;\n}\n",
+                pair.c_str(), pair.c_str(), pair.c_str(), pair.c_str(), type.c_str(), type.c_str());
+        }
+}
+
+// The exports behind the wrappers, and the wrappers.
+void print_wrappers() {
+    std::puts("\n#ifdef __x86_64__");
+    print_types_of_units();
+    std::puts(
+        "#define OCL_ZORV_V8_EXPORTED(result, name, ...) \\\n"
+        "    __attribute__((regcall)) result##_units name##_units(__VA_ARGS__) __asm__(#name \"_units\");\n"
+        "#define OCL_ZORV_V8_SPLIT(type, x) OCL_ZORV_V8_SPLIT_##type(x)\n"
+        "#define OCL_ZORV_V8_WRAP(result, name, x) \\\n"
+        "    OCL_ZORV_V8_EXPORTED(result, name, x##_units) \\\n"
+        "    OCL_ZORV_V8_WRAPPER result name(x a) { return OCL_ZORV_V8_JOIN_##result(name##_units(OCL_ZORV_V8_SPLIT(x, "
+        "a))); }\n"
+        "#define OCL_ZORV_V8_WRAP_2(result, name, x, y) \\\n"
+        "    OCL_ZORV_V8_EXPORTED(result, name, x##_units, y##_units) \\\n"
+        "    OCL_ZORV_V8_WRAPPER result name(x a, y b) { \\\n"
+        "        return OCL_ZORV_V8_JOIN_##result(name##_units(OCL_ZORV_V8_SPLIT(x, a), OCL_ZORV_V8_SPLIT(y, b))); \\\n"
+        "    }\n"
+        "#define OCL_ZORV_V8_WRAP_3(result, name, x, y, z) \\\n"
+        "    OCL_ZORV_V8_EXPORTED(result, name, x##_units, y##_units, z##_units) \\\n"
+        "    OCL_ZORV_V8_WRAPPER result name(x a, y b, z c) { \\\n"
+        "        return OCL_ZORV_V8_JOIN_##result(name##_units(OCL_ZORV_V8_SPLIT(x, a), OCL_ZORV_V8_SPLIT(y, b), "
+        "OCL_ZORV_V8_SPLIT(z, c))); \\\n"
+        "    }\n"
+        "#define OCL_ZORV_V8_WRAP_POINTER(result, name, x, pointer) \\\n"
+        "    OCL_ZORV_V8_EXPORTED(result, name, x##_units, pointer *) \\\n"
+        "    OCL_ZORV_V8_WRAPPER result name(x a, pointer *second) { \\\n"
+        "        return OCL_ZORV_V8_JOIN_##result(name##_units(OCL_ZORV_V8_SPLIT(x, a), second)); \\\n"
+        "    }\n"
+        "#define OCL_ZORV_V8_WRAP_2_POINTER(result, name, x, y, pointer) \\\n"
+        "    OCL_ZORV_V8_EXPORTED(result, name, x##_units, y##_units, pointer *) \\\n"
+        "    OCL_ZORV_V8_WRAPPER result name(x a, y b, pointer *second) { \\\n"
+        "        return OCL_ZORV_V8_JOIN_##result(name##_units(OCL_ZORV_V8_SPLIT(x, a), OCL_ZORV_V8_SPLIT(y, b), "
+        "second)); \\\n"
+        "    }");
+    for (const Family& family : families)
+        for (int width : widths) {
+            if (!family.is_wide(width)) continue;
+            Signature s = signature_of(family);
+            string macro = "OCL_ZORV_V8_WRAP",
+                   types = s.pair ? s.result + std::to_string(width) + "_pair" : vector(s.result, width);
+            types += ", " + family.export_name(width);
+            if (s.operands.size() > 1) macro += "_" + std::to_string(s.operands.size());
+            for (const string& operand : s.operands) types += ", " + vector(operand, width);
+            if (!s.pointer.empty()) {
+                macro += "_POINTER";
+                types += ", " + vector(s.pointer, width);
+            }
+            std::printf("%s(%s)\n", macro.c_str(), types.c_str());
+        }
+    std::puts("#undef OCL_ZORV_V8_EXPORTED\n#undef OCL_ZORV_V8_SPLIT\n#undef OCL_ZORV_V8_WRAP\n#undef "
+              "OCL_ZORV_V8_WRAP_2\n#undef OCL_ZORV_V8_WRAP_3\n#undef OCL_ZORV_V8_WRAP_POINTER\n"
+              "#undef OCL_ZORV_V8_WRAP_2_POINTER\n#endif");
+}
+
 void print_header() {
     std::puts(
         "/* Vectorised math kernels for OpenCL run-times: the exported functions.\n"
@@ -235,11 +355,11 @@ void print_header() {
         "#ifndef OCL_ZORV_V8_H\n"
         "#define OCL_ZORV_V8_H\n"
         "\n"
-        "#if !defined(__clang__) || !defined(__i386__) || !defined(__SSE2__)\n"
-        "#error \"ocl_zorv_v8.h needs clang with -m32 -msse2: the functions follow its convention for vector "
+        "#if !defined(__clang__) || !(defined(__i386__) || defined(__x86_64__)) || !defined(__SSE2__)\n"
+        "#error \"ocl_zorv_v8.h needs clang for x86 with SSE2: the functions follow its convention for vector "
         "operands\"\n"
         "#endif\n"
-        "#ifdef __AVX__\n"
+        "#if defined(__i386__) && defined(__AVX__)\n"
         "#error \"ocl_zorv_v8.h needs -mno-avx: with AVX clang passes vectors of more than 16 bytes in ymm registers, "
         "where the functions neither look nor return\"\n"
         "#endif\n"
@@ -263,8 +383,22 @@ void print_header() {
             if (width > 1)
                 std::printf("typedef struct { %s sine, cosine; } %s%d_pair;\n", vector(lane, width).c_str(), lane,
                             width);
-    std::puts("\n#ifdef __cplusplus\nextern \"C\" {\n#pragma clang diagnostic push\n"
-              "#pragma clang diagnostic ignored \"-Wreturn-type-c-linkage\"\n#endif");
+    std::puts("\n/* On x86-64 a vector of more than 16 bytes would travel as the caller's instruction set has it. The "
+              "functions\n"
+              " * of this mark are wrappers, always inlined: to the library such vectors go as structures of their "
+              "units. */\n"
+              "#ifdef __x86_64__\n"
+              "#define OCL_ZORV_V8_WRAPPER static inline __attribute__((always_inline, unused))\n"
+              "#else\n"
+              "#define OCL_ZORV_V8_WRAPPER\n"
+              "#endif\n"
+              "\n"
+              "#pragma clang diagnostic push\n"
+              "#pragma clang diagnostic ignored \"-Wpsabi\"\n"
+              "#ifdef __cplusplus\n"
+              "extern \"C\" {\n"
+              "#pragma clang diagnostic ignored \"-Wreturn-type-c-linkage\"\n"
+              "#endif");
     for (const Family& family : families) {
         About about_it = about(family);
         std::puts("");
@@ -272,9 +406,12 @@ void print_header() {
         wrapped(" *", about_it.special);
         wrapped(" *", error_text(family));
         wrapped(" *", about_it.method + " */");
-        for (int width : widths) std::puts(declaration(family, width).c_str());
+        for (int width : widths)
+            std::printf("%s%s\n", family.is_wide(width) ? "OCL_ZORV_V8_WRAPPER " : "",
+                        declaration(family, width).c_str());
     }
-    std::puts("\n#ifdef __cplusplus\n#pragma clang diagnostic pop\n}\n#endif\n\n#endif");
+    print_wrappers();
+    std::puts("\n#undef OCL_ZORV_V8_WRAPPER\n#ifdef __cplusplus\n}\n#endif\n#pragma clang diagnostic pop\n\n#endif");
 }
 
 // The built-in's name, and the operands in its order.
@@ -432,7 +569,8 @@ void print_builtins() {
         "\n"
         "#include \"ocl_zorv_v8.h\"\n"
         "\n"
-        "/* Always inlined and never emitted: an overload may stand beside a declaration that the run-time has made of\n"
+        "/* Always inlined and never emitted: an overload may stand beside a declaration that the run-time has made "
+        "of\n"
         " * the same built-in, and takes its place. */\n"
         "#define OVERLOAD extern inline __attribute__((overloadable, always_inline, gnu_inline))");
     string last;
@@ -455,7 +593,7 @@ void print_builtins() {
 void print_version_script() {
     std::puts("{\n  global:");
     for (const Family& family : families)
-        for (int width : widths) std::printf("    %s;\n", family.export_name(width).c_str());
+        for (int width : widths) std::printf("    %s;\n", family.symbol(width).c_str());
     std::puts("  local: *;\n};");
 }
 

@@ -5,8 +5,6 @@
 #include "include/grid_names.h"
 
 #define IS_HERE(home) SECOND_OF(HOME_##home, elsewhere, )
-#define SECOND_OF(...) SECOND_OF_(__VA_ARGS__)
-#define SECOND_OF_(first, second, ...) second
 
 #define FAMILY(base, precision, class_, signature, home, traits, bound) \
     PASTE(ROW_, IS_HERE(home))(FAMILY_NAME(base, precision, class_))
