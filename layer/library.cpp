@@ -22,14 +22,11 @@ namespace {
     asm(".pushsection .rodata\n" #name ":\n.incbin \"" file "\"\n.byte 0\n.popsection\n")
 EMBEDDED(exports_header, "ocl_zorv_v8.h");
 EMBEDDED(builtins_header, "ocl_zorv_v8_builtins.h");
-EMBEDDED(native_header, "ocl_zorv_v8_native.h");
 
 struct Header {
     const char *name, *text;
 };
-const Header headers[] = {{"ocl_zorv_v8.h", exports_header},
-                          {"ocl_zorv_v8_builtins.h", builtins_header},
-                          {"ocl_zorv_v8_native.h", native_header}};
+const Header headers[] = {{"ocl_zorv_v8.h", exports_header}, {"ocl_zorv_v8_builtins.h", builtins_header}};
 
 std::string environment(const char* name) {
     const char* value = std::getenv(name);
@@ -199,7 +196,7 @@ cl_int Library::compile(cl_program program, const std::vector<cl_device_id>& dev
     std::string all_options = options == nullptr ? "" : options;
     bool native = wants_native(all_options);
     all_options += " -D OCL_ZORV_V8_LAYER";
-    if (native) all_options += " -D OCL_ZORV_V8_LAYER_NATIVE";
+    if (native) all_options += " -D OCL_ZORV_V8_NATIVE";
     return target.clCompileProgram(
         program, static_cast<cl_uint>(devices.size()), devices.empty() ? nullptr : devices.data(), all_options.c_str(),
         static_cast<cl_uint>(headers_given.size()), headers_given.data(), names.data(), nullptr, nullptr);

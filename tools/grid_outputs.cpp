@@ -557,6 +557,20 @@ void print_other_conversions() {
               "#undef SCALAR_ROUNDED\n#undef CLAMPED\n#undef SATURATED\n#undef SCALAR_SATURATED\n#undef WIDTHS");
 }
 
+// Every operation with a native class has one in both precisions.
+void print_native_names() {
+    std::puts("\n/* -D OCL_ZORV_V8_NATIVE: native functions in place of the accurate ones, wherever there are any. */\n"
+              "#ifdef OCL_ZORV_V8_NATIVE");
+    for (const Family& family : families) {
+        string native = builtin_name(family);
+        if (family.precision != "float_" || family.accuracy_class != "native" || native == "none") continue;
+        string name = operation_of(family).builtin;
+        if (name == "recip" || name == "divide") continue;  // these are operators in the accurate class
+        std::printf("#undef %s\n#define %s %s\n", name.c_str(), name.c_str(), native.c_str());
+    }
+    std::puts("#endif");
+}
+
 void print_builtins() {
     std::puts(
         "/* OpenCL C built-ins as overloads that call the library: include this before a kernel, and the kernel needs\n"
@@ -569,10 +583,13 @@ void print_builtins() {
         "\n"
         "#include \"ocl_zorv_v8.h\"\n"
         "\n"
+        "#pragma clang diagnostic push\n"
+        "#pragma clang diagnostic ignored \"-Wpsabi\"\n"
+        "\n"
         "/* Always inlined and never emitted: an overload may stand beside a declaration that the run-time has made "
         "of\n"
-        " * the same built-in, and takes its place. */\n"
-        "#define OVERLOAD extern inline __attribute__((overloadable, always_inline, gnu_inline))");
+        " * the same built-in, and takes its place. Some run-times define `inline` away. */\n"
+        "#define OVERLOAD extern __inline__ __attribute__((overloadable, always_inline, gnu_inline))");
     string last;
     for (const Family& family : families) {
         auto conversion = conversions.find(family.base);
@@ -587,7 +604,9 @@ void print_builtins() {
         }
     }
     print_other_conversions();
-    std::puts("\n#undef OVERLOAD\n\n#endif");
+    std::puts("\n#undef OVERLOAD\n#pragma clang diagnostic pop");
+    print_native_names();
+    std::puts("\n#endif");
 }
 
 void print_version_script() {
