@@ -585,6 +585,7 @@ void print_builtins() {
         "\n"
         "#pragma clang diagnostic push\n"
         "#pragma clang diagnostic ignored \"-Wpsabi\"\n"
+        "#pragma clang diagnostic ignored \"-Wstatic-in-inline\"\n"
         "\n"
         "/* Always inlined and never emitted: an overload may stand beside a declaration that the run-time has made "
         "of\n"
