@@ -14,7 +14,7 @@ foreach(isa x86-64 x86-64-v3)
   target_include_directories(${objects} PRIVATE ${PROJECT_SOURCE_DIR} ${generated_include})
   target_compile_options(${objects} PRIVATE ${kernel_options} -march=${isa} -emit-llvm)
   target_compile_definitions(${objects} PRIVATE ZORV_BITCODE)
-  add_dependencies(${objects} headers)
+  add_dependencies(${objects} ocl_zorv_v8_headers)
 
   # The optimiser of the run-time must not see the values of the records (frame/record.h): it would fold constants into
   # each other, which turns the sign of a NaN. Initialised externally, they are data that it has to load.

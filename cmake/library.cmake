@@ -1,6 +1,7 @@
 # The product: one file, __ocl_zorv_v8.so, that depends on nothing.
 include(cmake/kernels.cmake)
 add_library(ocl_zorv_v8 SHARED ${kernel_sources})
+add_library(ocl_zorv_v8::ocl_zorv_v8 ALIAS ocl_zorv_v8)  # the name that the installed package has
 target_include_directories(ocl_zorv_v8
   PRIVATE ${PROJECT_SOURCE_DIR} ${generated_include}
   INTERFACE $<BUILD_INTERFACE:${generated_include}> $<INSTALL_INTERFACE:${CMAKE_INSTALL_INCLUDEDIR}>)
@@ -10,7 +11,7 @@ set(interface_options -msse2)
 if(ZORV_TARGET STREQUAL "x86_64")
   set(interface_options -Wno-psabi)
 endif()
-target_compile_options(ocl_zorv_v8 INTERFACE $<INSTALL_INTERFACE:${interface_options}>)
+target_compile_options(ocl_zorv_v8 INTERFACE ${interface_options})
 set(kernel_options
   -fPIC -fvisibility=hidden -fno-exceptions -fno-rtti -fno-stack-protector -Wconversion -Wno-sign-conversion)
 target_compile_options(ocl_zorv_v8 PRIVATE ${kernel_options})
@@ -19,4 +20,4 @@ target_link_options(ocl_zorv_v8 PRIVATE
   -Wl,--version-script=${version_script})
 set_target_properties(ocl_zorv_v8 PROPERTIES
   PREFIX "" OUTPUT_NAME __ocl_zorv_v8 LINK_DEPENDS ${version_script} NO_SONAME OFF)
-add_dependencies(ocl_zorv_v8 headers)
+add_dependencies(ocl_zorv_v8 ocl_zorv_v8_headers)

@@ -41,9 +41,6 @@ endif()
 if(NOT ZORV_EXAMPLES)
   list(FILTER style_sources EXCLUDE REGEX "/examples/")
 endif()
-foreach(name IN LISTS examples_that_wait)
-  list(FILTER style_sources EXCLUDE REGEX "/examples/${name}/")
-endforeach()
 foreach(source IN LISTS style_sources)
   file(RELATIVE_PATH name ${PROJECT_SOURCE_DIR} ${source})
   string(REPLACE "/" "." stamp ${name})
@@ -56,7 +53,7 @@ foreach(source IN LISTS style_sources)
     COMMAND ${CMAKE_COMMAND} -DCLANG_TIDY=${CLANG_TIDY} -DBUILD=${PROJECT_BINARY_DIR} -DSOURCE=${source}
             -P ${PROJECT_SOURCE_DIR}/cmake/static_checks.cmake
     COMMAND ${CMAKE_COMMAND} -E touch ${stamp}
-    DEPENDS ${source} .clang-tidy cmake/static_checks.cmake headers
+    DEPENDS ${source} .clang-tidy cmake/static_checks.cmake ocl_zorv_v8_headers
     DEPFILE ${stamp}.d
     COMMENT "Checks of ${name}" VERBATIM)
   list(APPEND stamps ${stamp})

@@ -46,13 +46,14 @@ struct VectorIn {
     struct VectorIn<units> {                    \
         using type = zorv::Vector<lane, width>; \
     };
-#define TRAVELS_AT_WIDTHS_8_AND_16(lane, name) TRAVELS(lane, 8, name##8_units) TRAVELS(lane, 16, name##16_units)
-#define TRAVELS_AT_WIDTHS_3_TO_16(lane, name) \
-    template <>                               \
-    struct TypeOf<lane, 3> {                  \
-        using type = name##4_units;           \
-    };                                        \
-    TRAVELS(lane, 4, name##4_units)           \
+#define TRAVELS_AT_WIDTHS_8_AND_16(lane, name) \
+    TRAVELS(lane, 8, __ocl_zorv_v8_##name##8_units) TRAVELS(lane, 16, __ocl_zorv_v8_##name##16_units)
+#define TRAVELS_AT_WIDTHS_3_TO_16(lane, name)       \
+    template <>                                     \
+    struct TypeOf<lane, 3> {                        \
+        using type = __ocl_zorv_v8_##name##4_units; \
+    };                                              \
+    TRAVELS(lane, 4, __ocl_zorv_v8_##name##4_units) \
     TRAVELS_AT_WIDTHS_8_AND_16(lane, name)
 TRAVELS_AT_WIDTHS_8_AND_16(float, float)
 TRAVELS_AT_WIDTHS_8_AND_16(int32_t, int)
@@ -111,10 +112,11 @@ ALWAYS_INLINE auto vector_in(Type travelling) {
         name(F(precision, width) x, F(precision, width) y, zorv::Vector<int32_t, width>* second) { \
         OUT(F(precision, width), frame<width>::call_with_pointer(IN(x), IN(y), second));           \
     }
-#define EXPORT_pair_result(name, frame, precision, width)                                                      \
-    EXPORT_pair_##width(name, frame,                                                                           \
-                        PASTE5(LANE_##precision, width, _pair, UNITS_SUFFIX(pair_result, precision, width), ), \
-                        precision, width)
+#define EXPORT_pair_result(name, frame, precision, width)                                                    \
+    EXPORT_pair_##width(                                                                                     \
+        name, frame,                                                                                         \
+        PASTE5(__ocl_zorv_v8_, LANE_##precision, width, _pair, UNITS_SUFFIX(pair_result, precision, width)), \
+        precision, width)
 #define EXPORT_pair_1(name, frame, pair, precision, width) \
     EXPORTED F(precision, 2) name(F(precision, width) x) { return frame<width>::call_for_pair(x); }
 #define EXPORT_pair_wide(name, frame, pair, precision, width) \

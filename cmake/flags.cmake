@@ -1,0 +1,41 @@
+# The flags that a user gives stay, but for those that would break what the library promises. CMake's own defaults are
+# nobody's wish.
+foreach(language C CXX)
+  if(CMAKE_${language}_FLAGS_RELEASE STREQUAL "-O3 -DNDEBUG")
+    set(CMAKE_${language}_FLAGS_RELEASE "-O2")
+  endif()
+  if(CMAKE_${language}_FLAGS_DEBUG STREQUAL "-g")
+    set(CMAKE_${language}_FLAGS_DEBUG "-O1 -g")
+  endif()
+endforeach()
+
+set(changes_results -Ofast -ffast-math -funsafe-math-optimizations -fassociative-math -freciprocal-math
+    -fno-signed-zeros -ffinite-math-only -fno-honor-nans -fno-honor-infinities -fapprox-func -ffp-model=fast
+    -ffp-model=aggressive -mrecip -mdaz-ftz)
+string(TOUPPER "${CMAKE_BUILD_TYPE}" configuration)
+foreach(variable CMAKE_CXX_FLAGS CMAKE_CXX_FLAGS_${configuration})
+  separate_arguments(given UNIX_COMMAND "${${variable}}")
+  foreach(flag IN LISTS given)
+    if(flag IN_LIST changes_results)
+      message(FATAL_ERROR "${variable} has ${flag}: the library's results are fixed to the last bit, so it is not "
+                          "built with that.")
+    elseif(flag MATCHES "^-mavx")
+      message(FATAL_ERROR "${variable} has ${flag}: with AVX, vectors travel in other registers. The library is for "
+                          "callers without; build it without.")
+    elseif(flag STREQUAL "-O0")
+      message(FATAL_ERROR "${variable} has -O0: the kernels need an optimiser, to be calls of nothing.")
+    elseif(flag MATCHES "^-O")
+      set(optimised TRUE)
+    elseif(flag MATCHES "^-m(arch|cpu|tune)=|^-m(32|64|x32)$|^-ffp-contract=|^-fmath-errno$")
+      list(APPEND overruled ${flag})
+    endif()
+  endforeach()
+endforeach()
+if(NOT optimised)
+  message(STATUS "No optimisation is asked for: -O2")
+  add_compile_options(-O2)
+endif()
+if(overruled)
+  list(JOIN overruled " " overruled)
+  message(STATUS "The library is made for its own target, whatever is given: no effect of ${overruled}")
+endif()
