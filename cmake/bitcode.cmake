@@ -18,11 +18,13 @@ foreach(isa x86-64 x86-64-v3)
 
   # The optimiser of the run-time must not see the values of the records (frame/record.h): it would fold constants into
   # each other, which turns the sign of a NaN. Initialised externally, they are data that it has to load.
+  # Once however often: two parts of the library may bring the same record into one program.
   set(file ${PROJECT_BINARY_DIR}/ocl_zorv_v8-${isa}.bc)
   add_custom_command(
     OUTPUT ${file}
     COMMAND ${LLVM_LINK} -S $<TARGET_OBJECTS:${objects}> -o ${file}.ll
-    COMMAND sed -i "s/^\\(@.* = hidden .*\\)constant /\\1externally_initialized constant /" ${file}.ll
+    COMMAND sed -i "s/^\\(@.*\\) = hidden \\(.*\\)constant /\\1 = linkonce_odr hidden \\2externally_initialized constant /"
+            ${file}.ll
     COMMAND ${LLVM_LINK} ${file}.ll -o ${file}
     DEPENDS ${objects} $<TARGET_OBJECTS:${objects}>
     COMMAND_EXPAND_LISTS VERBATIM

@@ -676,6 +676,20 @@ void print_other_conversions() {
               "#undef __ZORV_PLAIN\n#undef __ZORV_CAST\n#undef __ZORV_CONVERTED");
 }
 
+// Every operation with a native class has one in both precisions.
+void print_native_names() {
+    std::puts("\n/* -D OCL_ZORV_V8_NATIVE: native functions in place of the accurate ones, wherever there are any. */\n"
+              "#ifdef OCL_ZORV_V8_NATIVE");
+    for (const Family& family : families) {
+        string native = builtin_name(family);
+        if (family.precision != "float_" || family.accuracy_class != "native" || native == "none") continue;
+        string name = operation_of(family).builtin;
+        if (name == "recip" || name == "divide") continue;  // these are operators in the accurate class
+        std::printf("#undef %s\n#define %s %s\n", name.c_str(), name.c_str(), native.c_str());
+    }
+    std::puts("#endif");
+}
+
 void print_builtins() {
     std::puts(
         "/* OpenCL C built-ins as overloads that call the library: include this before a kernel, and the kernel needs\n"
@@ -699,8 +713,10 @@ void print_builtins() {
         "\n"
         "/* Always inlined and never emitted: an overload may stand beside a declaration that the run-time has made "
         "of\n"
-        " * the same built-in, and takes its place. */\n"
-        "#define __ZORV_OVERLOAD extern inline __attribute__((overloadable, always_inline, gnu_inline))\n"
+        " * the same built-in, and takes its place. Some run-times define `inline` away. */\n"
+        "#define __ZORV_OVERLOAD extern __inline__ __attribute__((overloadable, always_inline, gnu_inline))\n"
+        "#pragma clang diagnostic push\n"
+        "#pragma clang diagnostic ignored \"-Wstatic-in-inline\"\n"
         "#define __ZORV_LEFT __attribute__((overloadable, const))\n"
         "#define __ZORV_REFUSED(why) __attribute__((overloadable, unavailable(why)))\n"
         "\n"
@@ -732,7 +748,9 @@ void print_builtins() {
     for (const auto& overloads : others)
         if (overloads.front().family.lane() != "half") print_overloads(overloads);
     std::puts("\n#undef __ZORV_OVERLOAD\n#undef __ZORV_LEFT\n#undef __ZORV_REFUSED\n#undef __ZORV_GENERIC_SPACE\n"
-              "#undef __ZORV_NAMED_SPACES\n\n#endif\n#endif\n#endif");
+              "#undef __ZORV_NAMED_SPACES\n#pragma clang diagnostic pop");
+    print_native_names();
+    std::puts("\n#endif\n#endif\n#endif");
 }
 
 void print_version_script() {

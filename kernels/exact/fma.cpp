@@ -23,13 +23,13 @@ RoundingMode rounding_mode() {
 
 // a * b + c in two roundings. Of several NaN the first goes through, so the operands keep their order.
 float multiply_and_add(float a, float b, float c) {
-    asm("mulss %1, %0" : "+x"(a) : "x"(b));
-    asm("addss %1, %0" : "+x"(a) : "x"(c));
+    asm(IN_ORDER("mulss") : "+x"(a) : "x"(b));
+    asm(IN_ORDER("addss") : "+x"(a) : "x"(c));
     return a;
 }
 double multiply_and_add(double a, double b, double c) {
-    asm("mulsd %1, %0" : "+x"(a) : "x"(b));
-    asm("addsd %1, %0" : "+x"(a) : "x"(c));
+    asm(IN_ORDER("mulsd") : "+x"(a) : "x"(b));
+    asm(IN_ORDER("addsd") : "+x"(a) : "x"(c));
     return a;
 }
 
