@@ -14,9 +14,9 @@ ratio(i) = log(column(word(columns, i))) / log(2)
 shown(y) = y > highest ? highest : y < lowest ? lowest : y
 is_missing(i) = strlen(stringcolumn(word(columns, i))) == 0
 place(i) = $0 + (i - 2) * 0.27
-# A blank before "nan", which is no number here, and a comma behind an empty last cell keep gnuplot from losing them.
+# `nan`, which nobody else has, is no label that gnuplot would show; a comma keeps an empty last cell.
 rows(precision) = "< awk -F, 'NR == 1 || ($3 == \"" . precision . "\" && $4 == \"accurate\" && $6 == 16 && " \
-    . "$7 == \"in_range\" && $5 !~ /^(to|from)_/) { print (NR > 1 ? \" \" : \"\") $0 \",\" }' " . data
+    . "$7 == \"in_range\" && $5 !~ /^(to|from)_/ && $1 !~ /^nan/) { print $0 \",\" }' " . data
 
 set boxwidth 0.27
 set style fill solid 0.9 noborder
