@@ -14,7 +14,8 @@
 //   --jobs N           threads
 //   --worst DIR        begin from the worst operands in DIR, and write back the worst found
 //   --markdown FILE    renew the families' rows in the tables of FILE, a table for each group; other rows stay
-//   --picture DIR      draw accuracy-<family>.svg: the error over the operand, range by range (gnuplot)
+//   --picture DIR      draw accuracy-<family>.svg: the error over the operand, range by range (gnuplot); none for
+//                      what is exact
 //   --pictures DIR     draw accuracy-<group>.svg for the families' groups: the first range of each family in them
 //   --sample N         random operands in each panel of a picture; 50000 by default
 //
@@ -362,12 +363,13 @@ void close_plot(std::FILE* plot, const std::string& of) {
 void draw_legend(std::FILE* plot, uint64_t sample) {
     std::fprintf(plot,
                  "unset title\nunset xlabel\nunset tics\nunset border\nunset grid\nset xrange [0:1]\nset yrange [0:1]\n"
-                 "set key top left reverse Left samplen 1.5\nplot NaN %s title 'largest error, ulp,', "
-                 "NaN with lines lc rgb 'white' title 'of %llu random operands', NaN %s title 'bound'\n",
+                 "set key top left reverse Left samplen 1.5\nplot NaN %s title 'largest error, ulp, of', "
+                 "NaN with lines lc rgb 'white' title '%llu random operands', NaN %s title 'bound'\n",
                  error_style, static_cast<unsigned long long>(sample), bound_style);
 }
 
 void draw(const grid::Family& family, const std::string& directory, uint64_t sample) {
+    if (family.bound == 0 || !std::isfinite(family.bound)) return;  // nothing to see
     std::vector<Range> ranges = accuracy::ranges_of(family);
     std::FILE* plot = open_plot();
     int count = static_cast<int>(ranges.size()) + 1;  // and the legend

@@ -19,6 +19,7 @@ have() {
     libbenchmark-dev:i386) [ -e $libraries/libbenchmark.a ] || [ -e $libraries/libbenchmark.so ] ;;
     libmpfr-dev:i386) [ -e $libraries/libmpfr.so ] && [ -e $libraries/libgmp.so ] ;;
     libsleef-dev:i386) [ -e $libraries/libsleef.so ] ;;
+    mkdocs-material) mkdocs build --help 2>/dev/null | grep -q material ;;
     libxsimd-dev) [ -d /usr/include/xsimd ] ;;
     *) command -v "$1" >/dev/null ;;
     esac
