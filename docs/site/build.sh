@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
-# usage: build.sh BUILD: the site, in BUILD/site. The target `site` calls it. SAMPLE: random operands for each panel of a
-# picture.
+# usage: build.sh BUILD: the site, in BUILD/site. The target `site` calls it.
+# SAMPLE is the number of random operands for each panel of a picture.
 set -euo pipefail
 build=$(cd "$1" && pwd)
 cd "$(dirname "$0")/../.."

@@ -1,4 +1,4 @@
-"""usage: links.py SITE: every link within the site leads to a file, and to a place in it. (mkdocs checks files alone.)
+"""usage: links.py SITE: every link within the site leads to a file, and to a place in it; mkdocs checks files.
 """
 import sys
 from html.parser import HTMLParser
