@@ -39,11 +39,6 @@ const std::vector<Family> families = {
 #include "include/grid.def"
 };
 
-const int planned = 0
-#define PLANNED(base, precision, class_, signature) +1
-#include "include/grid.def"
-    ;
-
 constexpr int widths[] = {1, 2, 3, 4, 8, 16};
 
 struct Operation {
@@ -482,17 +477,15 @@ string bound_cell(double bound) {
 void print_operations() {
     std::vector<string> bases;
     std::map<string, std::map<string, double>> bounds;  // by base, then by "float_ accurate" and so on
-    size_t standing_conversions = 0;
+    size_t conversion_families = 0;
     for (const Family& family : families) {
         if (conversions.contains(family.base)) {
-            ++standing_conversions;
+            ++conversion_families;
             continue;
         }
         if (!bounds.contains(family.base)) bases.push_back(family.base);
         bounds[family.base][family.precision + " " + family.accuracy_class] = family.bound;
     }
-    if (planned != 0)
-        std::printf("%zu of %zu families stand.\n\n", families.size(), families.size() + static_cast<size_t>(planned));
     std::puts("| operation | computes | float | double | float, native | double, native |");
     std::puts("|---|---|---|---|---|---|");
     for (const string& base : bases) {
@@ -507,13 +500,13 @@ void print_operations() {
         }
         std::puts("");
     }
-    if (standing_conversions != 0)
+    if (conversion_families != 0)
         std::printf(
             "\nBeside these stand %zu conversions between `float` or `double` and `int`, `uint`, `long` or `ulong`, in "
             "four\nroundings; to integers with and without saturation. [docs/families.md](docs/families.md) lists "
             "every "
             "family, group by group.\n",
-            standing_conversions);
+            conversion_families);
 }
 
 // "quotients" from kernels/quotients/operations.def.
