@@ -773,7 +773,8 @@ void print_json() {
     std::puts("[");
     for (const Family& family : families) {
         string builtin = listed(family).builtin, declarations;
-        if (conversions.contains(family.base)) builtin.replace(builtin.find("_*"), 2, builtin_name(family));
+        if (auto found = conversions.find(family.base); found != conversions.end())
+            builtin.replace(builtin.find("_*"), 2, opencl_roundings.at(found->second.rounding));
         for (int width : widths) declarations += (width > 1 ? ", " : "") + quoted(declaration(family, width));
         auto title = std::ranges::find(titles, group_of(family), [](const Title& one) { return string(one.group); });
         const std::pair<const char*, string> fields[] = {{"name", family.name()},
@@ -783,7 +784,7 @@ void print_json() {
                                                          {"group", title->text},
                                                          {"what", operation_of(family).what},
                                                          {"builtin", builtin},
-                                                         {"lanes", unit_text(family) + lanes_text(family)},
+                                                         {"lanes", unit_text(family) + width_text(family, 1)},
                                                          {"error", error_text(family)},
                                                          {"bound", bound_cell(family.bound)},
                                                          {"special", about(family).special},

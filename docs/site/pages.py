@@ -80,6 +80,9 @@ def times_table(rows):
 
 def section(family, accuracy, performance, differences, times):
     name = family["name"]
+    # As one writes them: without the header's reserved names.
+    declarations = re.sub(r"__ocl_zorv_v8_((float|double|u?int|u?long)\d+)|\b__(?!ocl_)([a-z]\w*)", r"\1\3",
+                          "\n".join(family["declarations"]))
     text = f"""
 ## `{name}` {{ #{name} }}
 
@@ -91,7 +94,7 @@ def section(family, accuracy, performance, differences, times):
 - **Method:** {family["method"].replace("+-", "±")}
 
 ```c
-{chr(10).join(family["declarations"])}
+{declarations}
 ```
 """
     if name in differences:
