@@ -81,8 +81,8 @@ def times_table(rows):
 def section(family, accuracy, performance, differences, times):
     name = family["name"]
     # As one writes them: without the header's reserved names.
-    declarations = re.sub(r"__ocl_zorv_v8_((float|double|u?int|u?long)\d+)|\b__(?!ocl_)([a-z]\w*)", r"\1\3",
-                          "\n".join(family["declarations"]))
+    reserved = r"__ocl_zorv_v8_((?:float|double|u?int|u?long)\d*(?:_pair)?\b)|\b__(?!ocl_)([a-z]\w*)"
+    declarations = re.sub(reserved, r"\1\2", "\n".join(family["declarations"]))
     text = f"""
 ## `{name}` {{ #{name} }}
 
