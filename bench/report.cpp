@@ -1,10 +1,20 @@
 #include "bench/report.h"
 
+#include <gnu/libc-version.h>
+
 #include <algorithm>
+#include <array>
+#include <fstream>
 #include <set>
 
 #include "bench/compare.h"
 #include "tools/ranges.h"
+#ifdef HAVE_SLEEF
+#include <sleef.h>
+#endif
+#ifdef HAVE_XSIMD
+#include <xsimd/config/xsimd_config.hpp>
+#endif
 
 namespace bench {
 namespace {
@@ -34,6 +44,59 @@ std::string digits(double ratio) {
 double over_its_floor(const Finding& finding) {
     double ratio = finding.ratio(floor_column);
     return ratio == 0 ? 0 : 1 / ratio;
+}
+
+std::string processor() {
+    std::ifstream information("/proc/cpuinfo");
+    for (std::string line; std::getline(information, line);)
+        if (line.starts_with("model name")) return line.substr(line.find(':') + 2);
+    return "an unknown processor";
+}
+
+void print_versions(std::FILE* file) {
+    std::fprintf(file,
+                 "\nMeasured on %s, in 32-bit code. Compiler of the library, of the loops and of what is inlined into "
+                 "them: clang %d.%d.%d.\nPeers: GNU C library %s",
+                 processor().c_str(), __clang_major__, __clang_minor__, __clang_patchlevel__, gnu_get_libc_version());
+#ifdef HAVE_SLEEF
+    std::fprintf(file, ", SLEEF %d.%d.%d", SLEEF_VERSION_MAJOR, SLEEF_VERSION_MINOR, SLEEF_VERSION_PATCHLEVEL);
+#endif
+#ifdef HAVE_XSIMD
+    std::fprintf(file, ", xsimd %d.%d.%d", XSIMD_VERSION_MAJOR, XSIMD_VERSION_MINOR, XSIMD_VERSION_PATCH);
+#endif
+    std::fprintf(file, ".\n");
+}
+
+// A line for each operation: the fastest peer's time over ours in each precision and class, and the medians.
+void print_summary(std::FILE* file, const std::vector<Finding>& findings) {
+    std::vector<std::string> bases;
+    std::map<std::string, std::array<double, 4>> ratios;
+    std::array<std::vector<double>, 4> columns;
+    for (const Finding& finding : findings) {
+        const grid::Family& family = *finding.family;
+        double ratio = finding.ratio(finding.rival);
+        if (finding.width != 16 || finding.set != Set::in_range || ratio == 0) continue;
+        size_t column = (family.is_native ? 2u : 0u) + (family.is_single ? 0u : 1u);
+        if (!ratios.contains(family.base)) bases.push_back(family.base);
+        ratios[family.base][column] = ratio;
+        columns[column].push_back(ratio);
+    }
+    std::fprintf(file, "\n## Summary\n\nThe fastest peer within 4 ulp, 16 lanes, operands in range.\n\n"
+                       "| operation | float | double | float, native | double, native |\n|---|--:|--:|--:|--:|\n");
+    auto row = [&](const std::string& name, const std::array<double, 4>& cells) {
+        std::fprintf(file, "| %s |", name.c_str());
+        for (double cell : cells) std::fprintf(file, " %s |", digits(cell).c_str());
+        std::fprintf(file, "\n");
+    };
+    std::array<double, 4> medians = {};
+    for (size_t i = 0; i < medians.size(); ++i) {
+        if (columns[i].empty()) continue;
+        auto middle = columns[i].begin() + static_cast<std::ptrdiff_t>(columns[i].size() / 2);
+        std::ranges::nth_element(columns[i], middle);
+        medians[i] = *middle;
+    }
+    row("*median*", medians);
+    for (const std::string& base : bases) row("`" + base + "`", ratios[base]);
 }
 
 struct Goal {
@@ -91,6 +154,8 @@ bool print_limits(std::FILE* file, const std::vector<Finding>& findings) {
 }
 
 void print_page(std::FILE* file, const std::vector<Finding>& findings) {
+    print_versions(file);
+    print_summary(file, findings);
     for (const accuracy::Group& group : accuracy::groups()) {
         bool begun = false;
         for (const grid::Family& family : grid::families()) {

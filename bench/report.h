@@ -37,7 +37,7 @@ bool is_needed_for_limits(const grid::Family& family, int width, Set set);
 
 // A line for each limit that is missed and a count; whether all are met.
 bool print_limits(std::FILE* file, const std::vector<Finding>& findings);
-// The families' table, then the goals.
+// Machine and versions, a summary, the families' tables, then limits and goals.
 void print_page(std::FILE* file, const std::vector<Finding>& findings);
 void print_csv(std::FILE* file, const std::vector<Finding>& findings);
 

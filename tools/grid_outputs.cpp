@@ -5,6 +5,7 @@
 //   grid_outputs version_script  the linker's list of exports
 //   grid_outputs readme          README.md, given as standard input, with its table of operations renewed
 //   grid_outputs families        docs/families.md
+//   grid_outputs json            all that is said of each family, for docs/site/pages.py
 #include <algorithm>
 #include <cctype>
 #include <cmath>
@@ -921,6 +922,39 @@ void print_readme() {
     }
 }
 
+string quoted(const string& text) {
+    string result = "\"";
+    for (char c : text) result += c == '"' || c == '\\' ? string("\\") + c : string(1, c);
+    return result + "\"";
+}
+
+void print_json() {
+    std::puts("[");
+    for (const Family& family : families) {
+        string builtin = listed(family).builtin, declarations;
+        if (auto found = conversions.find(family.base); found != conversions.end())
+            builtin.replace(builtin.find("_*"), 2, opencl_roundings.at(found->second.rounding));
+        for (int width : widths) declarations += (width > 1 ? ", " : "") + quoted(declaration(family, width));
+        auto title = std::ranges::find(titles, group_of(family), [](const Title& one) { return string(one.group); });
+        const std::pair<const char*, string> fields[] = {{"name", family.name()},
+                                                         {"base", family.base},
+                                                         {"lane", family.lane()},
+                                                         {"class", family.accuracy_class},
+                                                         {"group", title->text},
+                                                         {"what", operation_of(family).what},
+                                                         {"builtin", builtin},
+                                                         {"lanes", unit_text(family) + width_text(family, 1)},
+                                                         {"error", error_text(family)},
+                                                         {"bound", bound_cell(family.bound)},
+                                                         {"special", about(family).special},
+                                                         {"method", about(family).method}};
+        std::printf("%s{", &family == families.data() ? "" : ",");
+        for (const auto& [key, value] : fields) std::printf("%s: %s, ", quoted(key).c_str(), quoted(value).c_str());
+        std::printf("\"declarations\": [%s]}\n", declarations.c_str());
+    }
+    std::puts("]");
+}
+
 }  // namespace
 
 int main(int count, char** arguments) {
@@ -935,6 +969,8 @@ int main(int count, char** arguments) {
         print_families();
     else if (what == "readme")
         print_readme();
+    else if (what == "json")
+        print_json();
     else
-        return std::fputs("usage: grid_outputs header|builtins|version_script|families|readme\n", stderr), 2;
+        return std::fputs("usage: grid_outputs header|builtins|version_script|families|readme|json\n", stderr), 2;
 }

@@ -58,6 +58,7 @@ have() {
     libmpfr-dev) [ -e $libraries/libmpfr.so ] && [ -e $libraries/libgmp.so ] ;;
     libsleef-dev) [ -e $libraries/libsleef.so ] ;;
     libxsimd-dev) [ -d /usr/include/xsimd ] ;;
+    mkdocs-material) mkdocs build --help 2>/dev/null | grep -q material ;;
     *) command -v "$1" ;;
     esac >/dev/null 2>&1
 }
