@@ -30,8 +30,11 @@ using Pass = void (*)(const Arrays&);
 
 // The passes over this library's exports: for each standing family, in the grid's order, one for each width.
 const std::vector<std::array<Pass, 6>>& export_passes();
-// Their floors, in the same order; null where there is none.
-const std::vector<Pass>& floor_passes();
+// Their floors, in the same order; null where there is none. The guarded one keeps the mask of rare lanes.
+struct FloorPasses {
+    Pass bare, guarded;
+};
+const std::vector<FloorPasses>& floor_passes();
 
 // Somebody else's way to the same results.
 struct Peer {

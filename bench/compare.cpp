@@ -58,10 +58,7 @@ Pass pass_of(const std::string& name, int width) {
     if (i == grid::families().size()) return nullptr;
     return export_passes()[i][static_cast<size_t>(std::ranges::find(grid::widths, width) - grid::widths.begin())];
 }
-Pass floor_of(const std::string& name) {
-    size_t i = index_of(name);
-    return i == grid::families().size() ? nullptr : floor_passes()[i];
-}
+FloorPasses floors_of(const std::string& name) { return floor_passes().at(index_of(name)); }
 
 // Answers are slow to get, and the same for all widths: those of the latest operands are kept.
 const Answers& answers_to(const grid::Family& family, Set set, const Arrays& arrays) {
@@ -73,10 +70,14 @@ const Answers& answers_to(const grid::Family& family, Set set, const Arrays& arr
     return *answers;
 }
 
-// The export that does the least with as many operands.
+// The export that does the least with as many operands and lanes as wide.
 std::string least_of(const grid::Family& family) {
-    const char* bases[] = {"fabs", "copysign", "mad"};
-    return bases[family.operands.size() - 1] + std::string(family.is_single ? "f" : "");
+    size_t from = grid::size_of(family.operands[0]), to = grid::size_of(family.results[0]);
+    std::string letter = from == 4 ? "f" : "";
+    if (family.operands.size() == 3) return "mad" + letter;
+    if (family.operands.size() == 2) return "copysign" + letter;
+    if (from == to) return "fabs" + letter;
+    return from < to ? "cvti32tofprtn" : "cvtfptoi32rtznosat";
 }
 
 }  // namespace
@@ -116,14 +117,15 @@ Comparison::Comparison(const grid::Family& family, int width, Set set)
     }
     if (family.base == "sincos" && !family.is_native)
         if (Pass pass = pass_of(family.is_single ? "sinf" : "sin", width)) add("sin", pass, false, workload_);
-    if (Pass floor = floor_of(family.name); floor && set == Set::in_range && width >= 4) {
+    if (auto [floor, guarded] = floors_of(family.name); floor && set == Set::in_range && width >= 4) {
         if (double off = error_of(floor); off > family.bound + slack(family.bound)) {
             dismiss(floor_column, off);
         } else {
             add(floor_column, floor, false, workload_);
+            add(guarded_floor, guarded, false, workload_);
             std::string least = least_of(family);
             add(call, pass_of(least, width), false, workload_);
-            add(call_floor, floor_of(least), false, workload_);
+            add(call_floor, floors_of(least).bare, false, workload_);
         }
     }
 

@@ -12,9 +12,10 @@
 
 namespace bench {
 
-// Columns that are no peers: this library's own export, the loop over its main path; an export that computes next to
-// nothing, and its own floor: what those two are apart is the cost of a call.
-inline constexpr const char *ours = "ours", *floor_column = "floor", *call = "call", *call_floor = "call_floor";
+// Columns that are no peers: this library's own export; the loop over its main path, without and with its guard; an
+// export that computes next to nothing, and its own floor: what those two are apart is the cost of a call.
+inline constexpr const char *ours = "ours", *floor_column = "floor", *guarded_floor = "guarded_floor", *call = "call",
+                            *call_floor = "call_floor";
 
 class Comparison {
   public:

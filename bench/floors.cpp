@@ -2,16 +2,16 @@
 #include "bench/candidates.h"
 #include "include/grid_names.h"
 
-#define FLOOR(base, precision, class_) PASTE(floor_of_, FAMILY_NAME(base, precision, class_))
+#define FLOORS(base, precision, class_) PASTE(floors_of_, FAMILY_NAME(base, precision, class_))
 #define FAMILY(base, precision, class_, signature, home, traits, bound) \
-    extern const bench::Pass FLOOR(base, precision, class_);
+    extern const bench::FloorPasses FLOORS(base, precision, class_);
 #include "include/grid.def"
 
 namespace bench {
 
-const std::vector<Pass>& floor_passes() {
-    static const std::vector<Pass> passes = {
-#define FAMILY(base, precision, class_, signature, home, traits, bound) FLOOR(base, precision, class_),
+const std::vector<FloorPasses>& floor_passes() {
+    static const std::vector<FloorPasses> passes = {
+#define FAMILY(base, precision, class_, signature, home, traits, bound) FLOORS(base, precision, class_),
 #include "include/grid.def"
     };
     return passes;

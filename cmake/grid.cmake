@@ -35,26 +35,3 @@ if(PROJECT_IS_TOP_LEVEL)
     COMMENT "The README's table and docs/families.md from the grid"
     VERBATIM)
 endif()
-
-# The names of the families that stand, known while configuring: the grid is preprocessed and read.
-function(standing_families result)
-  set_property(DIRECTORY APPEND PROPERTY CMAKE_CONFIGURE_DEPENDS
-    ${PROJECT_SOURCE_DIR}/include/grid.def ${PROJECT_SOURCE_DIR}/cmake/standing_families.def)
-  execute_process(
-    COMMAND ${CMAKE_CXX_COMPILER} -E -P -x c++ -I ${PROJECT_SOURCE_DIR} ${PROJECT_SOURCE_DIR}/cmake/standing_families.def
-    OUTPUT_VARIABLE rows COMMAND_ERROR_IS_FATAL ANY)
-  string(REGEX MATCHALL "standing:[^;]+" rows "${rows}")
-  set(names "")
-  foreach(row IN LISTS rows)
-    string(REGEX MATCH "standing: *([a-z0-9_]+) (float|double)_ (accurate|native)" matched "${row}")
-    set(name ${CMAKE_MATCH_1})
-    if(CMAKE_MATCH_2 STREQUAL "float")
-      string(APPEND name f)
-    endif()
-    if(CMAKE_MATCH_3 STREQUAL "native")
-      string(APPEND name _native)
-    endif()
-    list(APPEND names ${name})
-  endforeach()
-  set(${result} "${names}" PARENT_SCOPE)
-endfunction()

@@ -6,6 +6,10 @@ install(TARGETS ocl_zorv_v8 EXPORT ocl_zorv_v8 LIBRARY DESTINATION ${CMAKE_INSTA
 install(FILES ${generated_include}/ocl_zorv_v8.h ${generated_include}/ocl_zorv_v8_builtins.h
   DESTINATION ${CMAKE_INSTALL_INCLUDEDIR})
 
+if(ZORV_TARGET STREQUAL "x86_64")
+  install(FILES ${bitcode_files} DESTINATION ${CMAKE_INSTALL_LIBDIR}/ocl_zorv_v8)
+endif()
+
 # Beside the library, so that those for two architectures share a prefix.
 set(package_folder ${CMAKE_INSTALL_LIBDIR}/cmake/ocl_zorv_v8)
 install(EXPORT ocl_zorv_v8 NAMESPACE ocl_zorv_v8:: FILE ocl_zorv_v8-targets.cmake DESTINATION ${package_folder})

@@ -5,10 +5,16 @@ add_library(ocl_zorv_v8::ocl_zorv_v8 ALIAS ocl_zorv_v8)  # the name that the ins
 target_include_directories(ocl_zorv_v8
   PRIVATE ${PROJECT_SOURCE_DIR} ${generated_include}
   INTERFACE $<BUILD_INTERFACE:${generated_include}> $<INSTALL_INTERFACE:${CMAKE_INSTALL_INCLUDEDIR}>)
-# Vector operands travel in vector registers only where the caller's compiler may use them.
-target_compile_options(ocl_zorv_v8 INTERFACE -msse2)
-target_compile_options(ocl_zorv_v8 PRIVATE
+# On i386 vector operands travel in vector registers only where the caller's compiler may use them. On x86-64 the
+# headers' wrappers take long vectors, which the compiler warns of, and are inlined.
+set(interface_options -msse2)
+if(ZORV_TARGET STREQUAL "x86_64")
+  set(interface_options -Wno-psabi)
+endif()
+target_compile_options(ocl_zorv_v8 INTERFACE ${interface_options})
+set(kernel_options
   -fPIC -fvisibility=hidden -fno-exceptions -fno-rtti -fno-stack-protector -Wconversion -Wno-sign-conversion)
+target_compile_options(ocl_zorv_v8 PRIVATE ${kernel_options})
 target_link_options(ocl_zorv_v8 PRIVATE
   -nostdlib -Wl,-z,defs -Wl,-z,text -Wl,-z,noexecstack -Wl,-z,relro -Wl,-z,now
   -Wl,--version-script=${version_script})

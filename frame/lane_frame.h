@@ -33,6 +33,7 @@
 #include "frame/shaping.h"
 #include "frame/staging.h"
 #include "frame/status.h"
+#include "frame/travelling.h"
 
 namespace zorv {
 
@@ -61,23 +62,24 @@ class Frame<Kernel, width, traits, Returned (*)(Operands...)> {
   public:
     using Value = VectorFor<First>;
     using SecondValue = VectorFor<Second>;
+    using Travels = Travelling<Lane<First>, width>;
     struct WidePair {
-        Value first;
-        SecondValue second;
+        Travels first, second;
     };
     using Pair = std::conditional_t<width == 1, Vector<Lane<First>, 2>, WidePair>;
 
     // One result.
-    ALWAYS_INLINE static Value call(VectorFor<Operands>... operands) {
-        return start(ByValue<Value>{}, std::index_sequence_for<Operands...>(), operands...);
+    ALWAYS_INLINE static Travels call(VectorFor<Operands>... operands) {
+        return start(ByValue<Value, Travels>{}, std::index_sequence_for<Operands...>(), operands...);
     }
     // Two results, the second through a pointer.
-    ALWAYS_INLINE static Value call_with_pointer(VectorFor<Operands>... operands, SecondValue* second) {
-        return start(ThroughPointer<Value, SecondValue>{second}, std::index_sequence_for<Operands...>(), operands...);
+    ALWAYS_INLINE static Travels call_with_pointer(VectorFor<Operands>... operands, SecondValue* second) {
+        return start(ThroughPointer<Value, Travels, SecondValue>{second}, std::index_sequence_for<Operands...>(),
+                     operands...);
     }
     // Two results by value.
     ALWAYS_INLINE static Pair call_for_pair(VectorFor<Operands>... operands) {
-        return start(AsPair<Value, SecondValue, Pair>{}, std::index_sequence_for<Operands...>(), operands...);
+        return start(AsPair<Value, Travels, Pair>{}, std::index_sequence_for<Operands...>(), operands...);
     }
 
     // The flow of a call, from shaped operands on.
@@ -118,8 +120,6 @@ class Frame<Kernel, width, traits, Returned (*)(Operands...)> {
     ALWAYS_INLINE static VectorFor<Units> shape(VectorFor<Units> vector) {
         if constexpr (width == 3) {
             constexpr auto fill = fill_value<Lane<Units>, is_first_operand>(traits);
-            if constexpr (is_first_operand && requires { Kernel::fill; })
-                static_assert(Kernel::fill == fill, "the kernel and its row of the grid fill lane 3 differently");
             return with_fourth_lane(vector, fill);
         } else {
             return vector;
@@ -128,7 +128,7 @@ class Frame<Kernel, width, traits, Returned (*)(Operands...)> {
 
     template <class Units, size_t... step>
     ALWAYS_INLINE static AllSteps<Units> split(VectorFor<Units> vector, std::index_sequence<step...>) {
-        return {take<Units, width, static_cast<int>(step) * lanes>(vector)...};
+        return {unseen(take<Units, width, static_cast<int>(step) * lanes>(vector))...};
     }
 
     template <class Delivery, size_t... index>

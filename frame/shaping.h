@@ -46,9 +46,10 @@ ALWAYS_INLINE Lane in_register(Lane lane) {
     return lane;
 }
 
-// Likewise a 64-bit integer, which the caller has stored as two halves, by one load for each half.
+// Likewise a 64-bit integer, which on i386 the caller has stored as two halves, by one load for each half.
 template <class Unit>
 ALWAYS_INLINE Unit unit_from_halves(uint64_t lane) {
+    if constexpr (sizeof(void*) == 8) return reinterpret_cast<Unit>(UL2{lane, lane});
     __m128i low = _mm_cvtsi32_si128(static_cast<int>(lane));
     __m128i high = _mm_cvtsi32_si128(static_cast<int>(lane >> 32));
     asm("" : "+x"(low), "+x"(high));
@@ -89,6 +90,21 @@ ALWAYS_INLINE Units take(Vector<typename Layout<Units>::Lane, width> vector) {
     } else {
         return take_unit<Units, width, first>(vector);
     }
+}
+
+// As bitcode the exports are inlined into kernels: there the compiler must not see that an operand is a constant. What
+// it computed in place of the processor could have a NaN of another sign.
+template <class Units>
+ALWAYS_INLINE Units unseen(Units units) {
+#ifdef ZORV_BITCODE
+    if constexpr (requires { units.low; })
+        asm("" : "+x"(units.low), "+x"(units.high));
+    else if constexpr (std::is_same_v<Units, N2>)
+        asm("" : "+x"(units.halves));
+    else
+        asm("" : "+x"(units));
+#endif
+    return units;
 }
 
 // Two vectors end to end.

@@ -90,40 +90,48 @@ inline D2 hardware_max(D2 x, D2 y) { return _mm_max_pd(x, y); }
 inline F4 reciprocal_estimate(F4 x) { return _mm_rcp_ps(x); }
 inline F4 rsqrt_estimate(F4 x) { return _mm_rsqrt_ps(x); }
 
+// An instruction that leaves its result in its first operand. Among instructions of AVX one of the older encoding
+// would wait for the upper halves of the registers.
+#ifdef __AVX__
+#define IN_ORDER(name) "v" name " %1, %0, %0"
+#else
+#define IN_ORDER(name) name " %1, %0"
+#endif
+
 // x * y and x + y with x as the instruction's first operand, which decides the payload where both are NaN. The
 // compiler takes the plain operators as commutative.
 inline F4 multiply_in_order(F4 x, F4 y) {
-    asm("mulps %1, %0" : "+x"(x) : "x"(y));
+    asm(IN_ORDER("mulps") : "+x"(x) : "x"(y));
     return x;
 }
 inline D2 multiply_in_order(D2 x, D2 y) {
-    asm("mulpd %1, %0" : "+x"(x) : "x"(y));
+    asm(IN_ORDER("mulpd") : "+x"(x) : "x"(y));
     return x;
 }
 inline F4 add_in_order(F4 x, F4 y) {
-    asm("addps %1, %0" : "+x"(x) : "x"(y));
+    asm(IN_ORDER("addps") : "+x"(x) : "x"(y));
     return x;
 }
 inline D2 add_in_order(D2 x, D2 y) {
-    asm("addpd %1, %0" : "+x"(x) : "x"(y));
+    asm(IN_ORDER("addpd") : "+x"(x) : "x"(y));
     return x;
 }
 
 // The same for scalars, at run time.
 inline float multiply_in_order(float x, float y) {
-    asm volatile("mulss %1, %0" : "+x"(x) : "x"(y));
+    asm volatile(IN_ORDER("mulss") : "+x"(x) : "x"(y));
     return x;
 }
 inline double multiply_in_order(double x, double y) {
-    asm volatile("mulsd %1, %0" : "+x"(x) : "x"(y));
+    asm volatile(IN_ORDER("mulsd") : "+x"(x) : "x"(y));
     return x;
 }
 inline float add_in_order(float x, float y) {
-    asm volatile("addss %1, %0" : "+x"(x) : "x"(y));
+    asm volatile(IN_ORDER("addss") : "+x"(x) : "x"(y));
     return x;
 }
 inline double add_in_order(double x, double y) {
-    asm volatile("addsd %1, %0" : "+x"(x) : "x"(y));
+    asm volatile(IN_ORDER("addsd") : "+x"(x) : "x"(y));
     return x;
 }
 

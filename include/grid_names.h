@@ -20,6 +20,39 @@
 #define EXPORT_NAME(base, precision, class_, width) \
     PASTE5(__ocl_zorv_v8_, base, LETTER_##precision, width, CLASS_##class_)
 
+// The symbol behind that name. On x86-64 a vector of more than 16 bytes travels as a structure of units: where a call
+// has one, the symbol ends in _units, and the plain name is the header's wrapper around it.
+#define EXPORT_SYMBOL(base, precision, class_, signature, width) \
+    PASTE(EXPORT_NAME(base, precision, class_, width), UNITS_SUFFIX(signature, precision, width))
+#define UNITS_SUFFIX(signature, precision, width) \
+    PASTE5(UNITS_, SECOND_OF(LONGEST_##signature, BYTES_##precision, ), _, width, )
+#define SECOND_OF(...) SECOND_OF_(__VA_ARGS__)
+#define SECOND_OF_(first, second, ...) second
+// The bytes of the longest lane: the family's own, or those of a long integer.
+#define BYTES_float_ 4
+#define BYTES_double_ 8
+#define LONGEST_to_i64 ~, 8
+#define LONGEST_to_u64 ~, 8
+#define LONGEST_from_i64 ~, 8
+#define LONGEST_from_u64 ~, 8
+#ifdef __x86_64__
+#define UNITS_WIDE _units
+#else
+#define UNITS_WIDE
+#endif
+#define UNITS_4_1
+#define UNITS_4_2
+#define UNITS_4_3
+#define UNITS_4_4
+#define UNITS_4_8 UNITS_WIDE
+#define UNITS_4_16 UNITS_WIDE
+#define UNITS_8_1
+#define UNITS_8_2
+#define UNITS_8_3 UNITS_WIDE
+#define UNITS_8_4 UNITS_WIDE
+#define UNITS_8_8 UNITS_WIDE
+#define UNITS_8_16 UNITS_WIDE
+
 // One macro for each width.
 #define FOR_EACH_WIDTH(macro, ...)                                                                                \
     macro(__VA_ARGS__, 1) macro(__VA_ARGS__, 2) macro(__VA_ARGS__, 3) macro(__VA_ARGS__, 4) macro(__VA_ARGS__, 8) \

@@ -14,8 +14,10 @@
 //   --jobs N           threads
 //   --worst DIR        begin from the worst operands in DIR, and write back the worst found
 //   --markdown FILE    renew the families' rows in the tables of FILE, a table for each group; other rows stay
-//   --picture DIR      draw accuracy-<family>.svg: the error over the operand, range by range (gnuplot)
+//   --picture DIR      draw accuracy-<family>.svg: the error over the operand, range by range (gnuplot); none for
+//                      what is exact
 //   --pictures DIR     draw accuracy-<group>.svg for the families' groups: the first range of each family in them
+//   --sample N         random operands in each panel of a picture; 50000 by default
 //
 // Prints for each range the largest error, the operands and the result there. Every figure is MPFR's; a fixed seed
 // makes a run repeatable. Fails where a bound of the grid does not hold.
@@ -40,6 +42,7 @@ struct Arguments {
     std::vector<const grid::Family*> families;
     std::string range, worst, markdown, picture, group_pictures;
     std::optional<uint64_t> random;
+    uint64_t sample = 50000;
     bool exhaustive = false;
     std::optional<double> neighbour;
     accuracy::Options options;
@@ -72,6 +75,8 @@ Arguments parse(int count, char** words) {
             arguments.range = value();
         } else if (word == "--random") {
             arguments.random = std::stoull(value());
+        } else if (word == "--sample") {
+            arguments.sample = std::stoull(value());
         } else if (word == "--exhaustive") {
             arguments.exhaustive = true;
         } else if (word == "--width") {
@@ -247,7 +252,8 @@ void update_markdown(const std::string& path, const std::map<std::string, std::v
                 std::string picture = "pictures/accuracy-" + std::string(group.folder) + ".svg";
                 file << "\n## " << group.title << "\n\n";
                 if (std::ifstream(pictures + picture).good())
-                    file << "![The largest errors over the operand, family by family](" << picture << ")\n\n";
+                    file << "![Errors of random operands over the range, family by family, below the bound](" << picture
+                         << ")\n\n";
                 file << "| Family | Range | Operands | Tried | Largest error, ulp | Bound | At | Result |\n"
                      << "|---|---|---|---|---|---|---|---|\n";
                 begun = true;
@@ -314,11 +320,13 @@ struct Profile {
     }
 };
 
+constexpr const char *error_style = "with lines lw 1.2 lc rgb '#1f5fa8'",
+                     *bound_style = "with lines dt 2 lc rgb '#b03030'";
+
 // One panel: a sample of the range, and its bound dashed.
 void draw_panel(std::FILE* plot, const grid::Family& family, const Range& range, const std::string& title,
-                bool is_small) {
-    int bins = is_small ? 80 : 160;
-    uint64_t sample = is_small ? 50000 : 200000;
+                uint64_t sample, bool is_small) {
+    int bins = static_cast<int>(std::clamp<uint64_t>(sample / 100, 10, is_small ? 80 : 160));
     Profile profile(range.x, family.operands[0] == grid::Lane::f32, bins);
     accuracy::Options options;
     options.width = range.beside ? 4 : 16;
@@ -335,7 +343,7 @@ void draw_panel(std::FILE* plot, const grid::Family& family, const Range& range,
                          b);
         std::fprintf(plot, "set ytics ('0' 0, '%.4g' %.9g)\n", bound, bound);
     }
-    std::fprintf(plot, "plot '-' with lines lw 1.2 lc rgb '#1f5fa8', %.9g with lines dt 2 lc rgb '#b03030'\n", bound);
+    std::fprintf(plot, "plot '-' %s, %.9g %s\n", error_style, bound, bound_style);
     for (int bin = 0; bin < bins; ++bin)
         if (double error = profile.largest[static_cast<size_t>(bin)]; error >= 0)
             std::fprintf(plot, "%.4g %.3g\n", profile.middle(bin), error);
@@ -350,45 +358,57 @@ std::FILE* open_plot() {
 void close_plot(std::FILE* plot, const std::string& of) {
     if (pclose(plot) != 0) stop("gnuplot failed on " + of);
 }
-constexpr const char* legend = "largest error in ulp of random operands in each of many intervals; dashed: the bound";
 
-void draw(const grid::Family& family, const std::string& directory) {
+// A panel of its own.
+void draw_legend(std::FILE* plot, uint64_t sample) {
+    std::fprintf(plot,
+                 "unset title\nunset xlabel\nunset tics\nunset border\nunset grid\nset xrange [0:1]\nset yrange [0:1]\n"
+                 "set key top left reverse Left samplen 1.5\nplot NaN %s title 'largest error, ulp, of', "
+                 "NaN with lines lc rgb 'white' title '%llu random operands', NaN %s title 'bound'\n",
+                 error_style, static_cast<unsigned long long>(sample), bound_style);
+}
+
+void draw(const grid::Family& family, const std::string& directory, uint64_t sample) {
+    if (family.bound == 0 || !std::isfinite(family.bound)) return;  // nothing to see
     std::vector<Range> ranges = accuracy::ranges_of(family);
     std::FILE* plot = open_plot();
-    int columns = ranges.size() > 1 ? 2 : 1, lines = (static_cast<int>(ranges.size()) + columns - 1) / columns;
+    int count = static_cast<int>(ranges.size()) + 1;  // and the legend
+    int columns = count % 3 == 0 ? 3 : 2, lines = (count + columns - 1) / columns;
     std::fprintf(plot,
                  "set terminal svg size %d,%d font 'sans,11' background 'white'\nset output '%s/accuracy-%s.svg'\n",
-                 460 * columns, 260 * lines + 30, directory.c_str(), family.name.c_str());
-    std::fprintf(plot, "set multiplot layout %d,%d title '%s: %s' noenhanced\nset grid\nset key off\n", lines, columns,
-                 family.name.c_str(), legend);
+                 400 * columns, 220 * lines + 30, directory.c_str(), family.name.c_str());
+    std::fprintf(plot, "set multiplot layout %d,%d title '%s' noenhanced\nset grid\nset key off\n", lines, columns,
+                 family.name.c_str());
     for (const Range& range : ranges) {
         std::string name(range.name);
         std::ranges::replace(name, '_', ' ');
-        draw_panel(plot, family, range, name, false);
+        draw_panel(plot, family, range, name, sample, false);
     }
+    draw_legend(plot, sample);
     close_plot(plot, family.name);
 }
 
 // Small multiples: each family of the group that has an error to show, on its first range.
-void draw_group(const accuracy::Group& group, const std::string& directory) {
+void draw_group(const accuracy::Group& group, const std::string& directory, uint64_t sample) {
     std::vector<const grid::Family*> families;
     for (const grid::Family& family : grid::families())
         if (accuracy::group_of(family).folder == group.folder && accuracy::has_reference(family) &&
             family.bound > 0.5 && std::isfinite(family.bound) && family.signature != "pair_result")
             families.push_back(&family);
     if (families.empty()) return;
-    int count = static_cast<int>(families.size());
+    int count = static_cast<int>(families.size()) + 1;  // and the legend
     int columns = std::clamp(static_cast<int>(std::ceil(std::sqrt(1.5 * count))), 2, 7);
     int lines = (count + columns - 1) / columns;
     std::FILE* plot = open_plot();
     std::fprintf(
         plot, "set terminal svg size %d,%d font 'sans,9' background 'white'\nset output '%s/accuracy-%.*s.svg'\n",
         200 * columns, 150 * lines + 40, directory.c_str(), static_cast<int>(group.folder.size()), group.folder.data());
-    std::fprintf(plot, "set multiplot layout %d,%d title \"%.*s\\n%s\" noenhanced\n", lines, columns,
-                 static_cast<int>(group.title.size()), group.title.data(), legend);
+    std::fprintf(plot, "set multiplot layout %d,%d title '%.*s' noenhanced\n", lines, columns,
+                 static_cast<int>(group.title.size()), group.title.data());
     std::fprintf(plot, "set key off\nset tics scale 0.5\nset lmargin 7\nset rmargin 2\n");
     for (const grid::Family* family : families)
-        draw_panel(plot, *family, accuracy::ranges_of(*family)[0], family->name, true);
+        draw_panel(plot, *family, accuracy::ranges_of(*family)[0], family->name, sample, true);
+    draw_legend(plot, sample);
     close_plot(plot, std::string(group.folder));
 }
 
@@ -401,12 +421,12 @@ int main(int count, char** words) {
             if (std::ranges::any_of(arguments.families, [&](const grid::Family* family) {
                     return accuracy::group_of(*family).folder == group.folder;
                 }))
-                draw_group(group, arguments.group_pictures);
+                draw_group(group, arguments.group_pictures, arguments.sample);
     std::map<std::string, std::vector<std::string>> table;
     if (!arguments.markdown.empty()) update_markdown(arguments.markdown, table);  // fails now rather than in an hour
     bool all_hold = true;
     for (const grid::Family* family : arguments.families) {
-        if (!arguments.picture.empty()) draw(*family, arguments.picture);
+        if (!arguments.picture.empty()) draw(*family, arguments.picture, arguments.sample);
         if (arguments.random == 0) continue;
         std::vector<Measured> rows = measure(*family, arguments);
         std::vector<Finding> findings;

@@ -121,19 +121,23 @@ struct Row {
     double bound;
     Shape shape;
     Call calls[6];
+    const char* symbols[6];
 };
 
+#define SYMBOL(base, precision, class_, signature, width) \
+    TEXT(EXPORT_SYMBOL(base, precision, class_, signature, width)),
 // The lanes are those of the width-4 export.
 const Row rows[] = {
-#define FAMILY(base, precision, class_, signature, home, traits, bound) \
-    {#base,                                                             \
-     #precision,                                                        \
-     #class_,                                                           \
-     #signature,                                                        \
-     traits,                                                            \
-     bound,                                                             \
-     shape_of(&EXPORT(base, precision, class_, 4)),                     \
-     {FOR_EACH_WIDTH(CALL, std::string_view(#signature) == "pair_result", base, precision, class_)}},
+#define FAMILY(base, precision, class_, signature, home, traits, bound)                              \
+    {#base,                                                                                          \
+     #precision,                                                                                     \
+     #class_,                                                                                        \
+     #signature,                                                                                     \
+     traits,                                                                                         \
+     bound,                                                                                          \
+     shape_of(&EXPORT(base, precision, class_, 4)),                                                  \
+     {FOR_EACH_WIDTH(CALL, std::string_view(#signature) == "pair_result", base, precision, class_)}, \
+     {FOR_EACH_WIDTH(SYMBOL, base, precision, class_, signature)}},
 #include "include/grid.def"
 };
 
@@ -150,10 +154,8 @@ Family family_of(const Row& row) {
     family.results.assign(shape.results, shape.results + shape.result_count);
     family.second_through_pointer = shape.second_through_pointer;
     std::copy(std::begin(row.calls), std::end(row.calls), family.calls.begin());
-    std::string stem = family.base + (family.is_single ? "f" : ""), ending = family.is_native ? "_native" : "";
-    family.name = stem + ending;
-    for (size_t i = 0; i < widths.size(); ++i)
-        family.exports[i] = "__ocl_zorv_v8_" + stem + std::to_string(widths[i]) + ending;
+    family.name = family.base + (family.is_single ? "f" : "") + (family.is_native ? "_native" : "");
+    std::copy(std::begin(row.symbols), std::end(row.symbols), family.exports.begin());
     return family;
 }
 

@@ -12,6 +12,13 @@
 
 namespace grid {
 
+// On i386 a width-1 floating result comes back on the x87 stack, whose load makes a signalling NaN quiet.
+#ifdef __x86_64__
+inline constexpr bool floating_results_on_x87 = false;
+#else
+inline constexpr bool floating_results_on_x87 = true;
+#endif
+
 enum class Lane { f32, f64, i32, u32, i64, u64 };
 constexpr size_t size_of(Lane lane) { return lane == Lane::f64 || lane == Lane::i64 || lane == Lane::u64 ? 8 : 4; }
 
@@ -38,7 +45,7 @@ struct Family {
     std::vector<Lane> operands, results;
     bool second_through_pointer;
     std::array<Call, 6> calls;           // by index in `widths`
-    std::array<std::string, 6> exports;  // their names
+    std::array<std::string, 6> exports;  // their symbols
 
     bool is(Traits trait) const { return (traits & trait) != 0; }
     Call call(int width) const;

@@ -11,8 +11,12 @@ cd "$(dirname "$(readlink -f "$0")")/.."
 architecture=${1:-i386}
 # shellcheck source=tools/prerequisites.sh
 . tools/prerequisites.sh
-require clang g++-multilib cmake ninja-build dpkg-dev debhelper lintian
-[ "$architecture" = "$(dpkg --print-architecture)" ] || require binutils-i686-linux-gnu
+require clang cmake ninja-build dpkg-dev debhelper lintian
+if [ "$architecture" = amd64 ]; then
+    require g++ llvm opencl-headers
+elif [ "$architecture" != "$(dpkg --print-architecture)" ]; then
+    require g++-multilib binutils-i686-linux-gnu
+fi
 
 # What is committed or about to be, in a folder of its own.
 package=$PWD/build/package/$architecture
@@ -23,7 +27,9 @@ cd "$package/source"
 
 # -d, and the check by hand: dpkg takes for granted that a cross build wants gcc's cross compiler, which this one does
 # not use and which excludes g++-multilib; -I leaves out what is taken for granted.
-dpkg-checkbuilddeps -I -a "$architecture" -P cross
+profiles=()
+[ "$architecture" = "$(dpkg --print-architecture)" ] || profiles=(-P cross)
+dpkg-checkbuilddeps -I -a "$architecture" "${profiles[@]}"
 if command -v ccache >/dev/null; then
     export CMAKE_C_COMPILER_LAUNCHER=ccache CMAKE_CXX_COMPILER_LAUNCHER=ccache
     CCACHE_DIR=$(ccache -k cache_dir) # debhelper sets another HOME

@@ -7,6 +7,10 @@
 //
 // A line for each export, with a hash of the bits of all its results, then the number of exports and a total. What
 // the grid has and the file has not is named at the end, and counts for nothing.
+//
+// Builds for i386 and x86-64 are compared as well (tests/abi/same_bits.sh). On i386 a width-1 result of floating type
+// comes back on the x87 stack, which makes signalling NaNs quiet. Where there are any, a second hash follows: of the
+// results with these NaNs made quiet.
 #include <dlfcn.h>
 
 #include <array>
@@ -34,9 +38,12 @@ constexpr size_t lanes_of_an_export = 6000;
 // ---- One call, from the types of the export. -------------------------------------------------------------------
 
 template <class Vector>
-struct ElementOf {
+struct ElementOf {  // of a vector, or of one in units
     using type = std::remove_reference_t<decltype(std::declval<Vector&>()[0])>;
 };
+template <class Units>
+requires requires(Units units) { units.unit0; }
+struct ElementOf<Units> : ElementOf<decltype(Units::unit0)> {};
 template <class Scalar>
 requires std::is_arithmetic_v<Scalar>
 struct ElementOf<Scalar> {
@@ -48,6 +55,7 @@ struct Shape {
     std::array<Kind, max_operands> operands = {};
     std::array<size_t, max_operands> sizes = {};  // of a lane
     size_t result_size = 0, second_size = 0;      // of a lane
+    bool is_one_floating_lane = false;            // the result
 };
 
 struct alignas(64) Vector16 {
@@ -58,10 +66,8 @@ struct Lanes {
     std::array<Vector16, 2> results;
 };
 
-template <class Function>
-struct Export;
-template <class Result, class... Operands>
-struct Export<Result(Operands...)> {
+template <class Function, class Result, class... Operands>
+struct Call {
     static Shape shape() {
         Shape shape;
         size_t count = 0;
@@ -81,6 +87,7 @@ struct Export<Result(Operands...)> {
             shape.result_size = shape.second_size = sizeof(typename ElementOf<decltype(Result::sine)>::type);
         } else {
             shape.result_size = sizeof(typename ElementOf<Result>::type);
+            shape.is_one_floating_lane = std::is_floating_point_v<Result>;
             // Of one lane the pair is a vector of two.
             if constexpr ((std::is_arithmetic_v<Operands> && ...) && !std::is_arithmetic_v<Result>)
                 shape.result_size = sizeof(Result);
@@ -101,7 +108,7 @@ struct Export<Result(Operands...)> {
         };
         // Braces evaluate from left to right.
         Arguments arguments{operand(std::type_identity<Operands>())...};
-        Result result = std::apply(reinterpret_cast<Result (*)(Operands...)>(function), arguments);
+        Result result = std::apply(reinterpret_cast<Function*>(function), arguments);
         if constexpr (requires { result.sine; }) {
             std::memcpy(&lanes.results[0], &result.sine, sizeof result.sine);
             std::memcpy(&lanes.results[1], &result.cosine, sizeof result.cosine);
@@ -113,6 +120,16 @@ struct Export<Result(Operands...)> {
   private:
     using Arguments = std::tuple<Operands...>;
 };
+
+template <class Function>
+struct Export;
+template <class Result, class... Operands>
+struct Export<Result(Operands...)> : Call<Result(Operands...), Result, Operands...> {};
+#ifdef __x86_64__
+#define THROUGH_UNITS(result, ...) __attribute__((regcall)) result(__VA_ARGS__)
+template <class Result, class... Operands>
+struct Export<THROUGH_UNITS(Result, Operands...)> : Call<THROUGH_UNITS(Result, Operands...), Result, Operands...> {};
+#endif
 
 // ---- Operands: what each vector is made of goes round, so that every path is taken alone and beside others. ------
 
@@ -135,7 +152,7 @@ class Random {
     uint64_t state_ = 0xcbf29ce484222325;
 };
 
-enum class Mood { moderate, unit, wide, huge, any, special, integral, count };
+enum class Mood { moderate, unit, wide, huge, any, special, integral, nan, count };
 
 // In single precision; doubles take the same exponents' extremes by their own fields.
 uint64_t special(Kind kind, Random& random) {
@@ -187,6 +204,8 @@ uint64_t draw(Kind kind, Mood mood, Random& random) {
             return scaled(-bias + 1, bias);
         case Mood::integral:
             return floating(static_cast<double>(random.below(400)) / 2 - 100);
+        case Mood::nan:  // of any sign and payload: which of two comes out tells the order of operands
+            return scaled(bias + 1, bias + 1) | 1;
         case Mood::special:
             return special(kind, random);
         case Mood::any:
@@ -206,23 +225,45 @@ struct Hash {
 };
 
 struct Row {
-    const char *family, *name;
+    const char *family, *name, *symbol;
     int width;
     Shape (*shape)();
     void (*call)(void*, Lanes&);
 };
 const Row rows[] = {
-#define EXPORT_TYPE(base, precision, class_, width) Export<decltype(EXPORT_NAME(base, precision, class_, width))>
-#define ROW(base, precision, class_, width)                                                                \
-    {TEXT(FAMILY_NAME(base, precision, class_)), TEXT(EXPORT_NAME(base, precision, class_, width)), width, \
-     EXPORT_TYPE(base, precision, class_, width)::shape, EXPORT_TYPE(base, precision, class_, width)::call},
-#define FAMILY(base, precision, class_, signature, home, traits, bound) FOR_EACH_WIDTH(ROW, base, precision, class_)
+#define ROW(base, precision, class_, signature, width)                                  \
+    {TEXT(FAMILY_NAME(base, precision, class_)),                                        \
+     TEXT(EXPORT_NAME(base, precision, class_, width)),                                 \
+     TEXT(EXPORT_SYMBOL(base, precision, class_, signature, width)),                    \
+     width,                                                                             \
+     Export<decltype(EXPORT_SYMBOL(base, precision, class_, signature, width))>::shape, \
+     Export<decltype(EXPORT_SYMBOL(base, precision, class_, signature, width))>::call},
+#define FAMILY(base, precision, class_, signature, home, traits, bound) \
+    FOR_EACH_WIDTH(ROW, base, precision, class_, signature)
 #include "include/grid.def"
 };
 
-uint64_t digest(const Row& row, void* function) {
+// A signalling NaN becomes quiet; nothing else changes.
+bool make_quiet(unsigned char* lane, size_t size) {
+    uint64_t bits = 0;
+    std::memcpy(&bits, lane, size);
+    int digits = size == 4 ? 23 : 52;
+    uint64_t infinity = (size == 4 ? uint64_t{0xff} : uint64_t{0x7ff}) << digits, quiet = uint64_t{1} << (digits - 1);
+    uint64_t mantissa = bits & (2 * quiet - 1);
+    if ((bits & infinity) != infinity || mantissa == 0 || (mantissa & quiet) != 0) return false;
+    bits |= quiet;
+    std::memcpy(lane, &bits, size);
+    return true;
+}
+
+struct Digest {
+    Hash hash, quieted;
+    bool has_signalling = false;
+};
+
+Digest digest(const Row& row, void* function) {
     Random random(row.name);
-    Hash hash;
+    Digest digest;
     Shape shape = row.shape();
     int width = row.width;
     size_t room = width == 3 ? 4 : static_cast<size_t>(width), live = static_cast<size_t>(width);
@@ -238,10 +279,16 @@ uint64_t digest(const Row& row, void* function) {
                 std::memcpy(lanes.operands[i].bytes + lane * shape.sizes[i], &bits, shape.sizes[i]);
             }
         row.call(function, lanes);
-        hash.add(lanes.results[0].bytes, live * shape.result_size);
-        if (shape.second_size) hash.add(lanes.results[1].bytes, live * shape.second_size);
+        auto add_to = [&](Hash& hash) {
+            hash.add(lanes.results[0].bytes, live * shape.result_size);
+            if (shape.second_size) hash.add(lanes.results[1].bytes, live * shape.second_size);
+        };
+        add_to(digest.hash);
+        if (!shape.is_one_floating_lane) continue;
+        digest.has_signalling |= make_quiet(lanes.results[0].bytes, shape.result_size);
+        add_to(digest.quieted);
     }
-    return hash.value;
+    return digest;
 }
 
 }  // namespace
@@ -264,13 +311,16 @@ int main(int count, char** words) {
     size_t found = 0, lanes = 0;
     for (const Row& row : rows) {
         if (!wanted.empty() && !wanted.contains(row.family)) continue;
-        void* function = dlsym(library, row.name);
+        void* function = dlsym(library, row.symbol);
         if (!function) {
             missing.push_back(row.name);
             continue;
         }
-        uint64_t value = digest(row, function);
-        std::printf("%-44s %016llx\n", row.name, static_cast<unsigned long long>(value));
+        Digest result = digest(row, function);
+        uint64_t value = result.hash.value;
+        std::printf("%-44s %016llx", row.name, static_cast<unsigned long long>(value));
+        if (result.has_signalling) std::printf(" %016llx", static_cast<unsigned long long>(result.quieted.value));
+        std::puts("");
         total.add(reinterpret_cast<const unsigned char*>(&value), sizeof value);
         ++found;
         lanes += lanes_of_an_export;

@@ -21,22 +21,44 @@ links_32_bits() {
     compgen -G '/usr/lib/gcc/*/*/32/libstdc++.a' >/dev/null
 }
 
+# choose_targets <arguments...>: the targets, as the first argument names one of them or none; `rest` is what follows.
+# shellcheck disable=SC2034 # used by the scripts that source this
+choose_targets() {
+    targets="i386 x86_64"
+    case ${1-} in
+    i386 | x86_64)
+        targets=$1
+        shift
+        ;;
+    esac
+    rest=("$@")
+}
+
+# preset_for <target> <preset for i386>: the preset of its kind for the target.
+preset_for() {
+    if [ "$1" = x86_64 ]; then echo "${2}64"; else echo "$2"; fi
+}
+
 # Does the machine have what this Debian package brings? Found by using it, so another system's package counts too.
 have() {
-    local libraries=/usr/lib/i386-linux-gnu
-    case $1 in
+    local libraries=/usr/lib/x86_64-linux-gnu
+    case $1 in *:i386) libraries=/usr/lib/i386-linux-gnu ;; esac
+    case ${1%:i386} in
     clang) [ "$(clang_version clang)" -ge $oldest_clang ] && [ "$(clang_version clang++)" -ge $oldest_clang ] ;;
     g++-multilib) links_32_bits ;;
+    g++) echo '#include <cstdio>' | clang++ -fsyntax-only -x c++ - ;;
     ninja-build) command -v ninja ;;
     gnuplot-nox) command -v gnuplot ;;
+    llvm) command -v llvm-link ;;
     dpkg-dev) command -v dpkg-buildpackage ;;
     debhelper) command -v dh ;;
     binutils-i686-linux-gnu) command -v i686-linux-gnu-objcopy ;;
-    libgtest-dev:i386) [ -e $libraries/libgtest.a ] ;;
-    libbenchmark-dev:i386) [ -e $libraries/libbenchmark.a ] || [ -e $libraries/libbenchmark.so ] ;;
-    libmpfr-dev:i386) [ -e $libraries/libmpfr.so ] && [ -e $libraries/libgmp.so ] ;;
-    libsleef-dev:i386) [ -e $libraries/libsleef.so ] ;;
+    libgtest-dev) [ -e $libraries/libgtest.a ] ;;
+    libbenchmark-dev) [ -e $libraries/libbenchmark.a ] || [ -e $libraries/libbenchmark.so ] ;;
+    libmpfr-dev) [ -e $libraries/libmpfr.so ] && [ -e $libraries/libgmp.so ] ;;
+    libsleef-dev) [ -e $libraries/libsleef.so ] ;;
     libxsimd-dev) [ -d /usr/include/xsimd ] ;;
+    mkdocs-material) mkdocs build --help 2>/dev/null | grep -q material ;;
     *) command -v "$1" ;;
     esac >/dev/null 2>&1
 }

@@ -1,5 +1,5 @@
 // Days counted off in weeks and in orbits, levels taken apart into mantissa and exponent, and distances whose squares
-// are no floats. Needs: remquof fmod frexpf ldexpf ilogbf hypotf nextafterf
+// are no floats.
 
 // The day of the week, Sunday 0, and the whole weeks since day 0; noon begins a Julian day.
 __kernel void weekdays(__global const float4* julian_day, __global float4* day_of_week, __global int4* weeks) {

@@ -1,5 +1,4 @@
 // A chirp whose phase is known exactly in turns: its samples by pi-scaled functions, and by way of radians.
-// Needs: sinpi cospi sin cos
 
 // From 0 to 16384 Hz in 8 s, 65536 samples a second: n^2 / 2^22 turns at sample n, a double without rounding.
 __kernel void chirp(__global const double16* n, __global double16* cosine, __global double16* sine,

@@ -1,5 +1,4 @@
 // Codes of a picture to linear light and back, three channels a pixel: gamma correction.
-// Needs: powrf powrf_native rintf
 
 __kernel void to_light(__global const float3* code, __global float3* light, __global float3* light_native) {
     size_t i = get_global_id(0);

@@ -1,5 +1,4 @@
 // How often things happen by chance: Poisson's and the binomial distribution, single counts and whole tails.
-// Needs: lgamma tgamma exp log log1p
 
 __kernel void poisson(__global const double2* mean, __global const double2* count, __global double2* chance) {
     size_t i = get_global_id(0);

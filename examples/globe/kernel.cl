@@ -1,5 +1,4 @@
 // Great-circle distances, as angles, by the three formulas in use, and the bearing to set out on.
-// Needs: sincos asin acos atan2 sqrt fmin fmax
 
 __kernel void great_circles(__global const double8* latitude, __global const double8* longitude,
                             __global const double8* to_latitude, __global const double8* to_longitude,

@@ -1,5 +1,4 @@
 // Interest and decay over steps so short that exp(rate * step) is all but 1, and the rate back from the gain.
-// Needs: expm1 log1p exp log
 
 __kernel void gains(__global const double4* rate, __global const double4* step, __global double4* gain,
                     __global double4* gain_by_exp) {

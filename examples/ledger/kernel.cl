@@ -1,5 +1,4 @@
 // Rounding amounts to cents, keeping them within limits, and a dot product whose rounding errors are kept.
-// Needs: rint round floor ceil trunc fma fminf fmaxf
 
 __kernel void to_cents(__global const double4* amount, __global double4* nearest_even, __global double4* half_away,
                        __global double4* below, __global double4* above, __global double4* toward_zero) {

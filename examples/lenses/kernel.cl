@@ -1,5 +1,4 @@
 // Where thin lenses form the image: 1/f = 1/object + 1/image, sixteen lenses at a time.
-// Needs: invf divf invf_native divf_native
 
 __kernel void image_distances(__global const float16* focal_length, __global const float16* object_distance,
                               __global float16* image, __global float16* magnification) {

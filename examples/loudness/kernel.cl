@@ -1,5 +1,4 @@
 // Levels in decibels, pitches in semitones, and decay: where logarithms and exponentials are heard and read.
-// Needs: expf exp2f exp10f logf log2f log10f expf_native logf_native
 
 // 20 log10 of an amplitude, and back; a note's number, 69 for 440 Hz and 12 for an octave, and back.
 __kernel void levels_and_notes(__global const float4* amplitude, __global const float4* frequency,

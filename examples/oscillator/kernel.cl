@@ -1,5 +1,4 @@
 // Sine and cosine of the phase of an oscillator that has run for a very long time, or for almost none.
-// Needs: sinf cosf sincosf sinf_native
 
 __kernel void phases(__global const float4* phase, __global float4* sine, __global float4* cosine,
                      __global float4* sine_of_both, __global float4* cosine_of_both, __global float4* rough) {

@@ -1,5 +1,4 @@
 // Two resistors in parallel, and the corner frequency that they make with a capacitor's reactance; four at a time.
-// Needs: inv div sqrt inv_native
 
 // Parallel: 1 / (1/a + 1/b). Impedance of a resistor and a reactance in series: sqrt(r^2 + x^2).
 __kernel void circuits(__global const double4* a, __global const double4* b, __global const double4* reactance,

@@ -1,6 +1,5 @@
 // A ship that feels the same push all the way: distances, times and speeds by the traveller's clock, and the clock back
 // from each. Units: years and light years, so that speeds are parts of that of light.
-// Needs: sinh cosh tanh asinh acosh atanh
 
 __kernel void travel(__global const double4* clock, double push, __global double4* time, __global double4* distance,
                      __global double4* speed, __global double4* stretch) {

@@ -1,5 +1,4 @@
 // A point turned by a huge angle and back.
-// Needs: sin cos sincos tan
 
 __kernel void rotate_and_back(__global const double2* angle, __global const double2* x, __global const double2* y,
                               __global double2* sine, __global double2* cosine, __global double2* turned_x,

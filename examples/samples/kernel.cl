@@ -1,6 +1,4 @@
 // 32-bit audio samples: to float, louder, and back without wrapping around at full scale.
-// Needs: cvti32tofprtnf cvtfptoi32rtnsatf cvti32tofprtn cvtfptoi32rtnsat cvtfptoi32rtzsat cvtfptoi32upsat
-// Needs: cvtfptoi32downsat
 
 __kernel void louder(__global const int4* sample, float gain, __global int4* result) {
     size_t i = get_global_id(0);

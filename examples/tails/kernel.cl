@@ -1,5 +1,4 @@
 // Tails of the normal distribution, and the quantiles that go with tails.
-// Needs: erfc erf exp log sqrt
 
 __kernel void tails(__global const double8* sigmas, __global double8* above, __global double8* outside,
                     __global double8* by_erf) {

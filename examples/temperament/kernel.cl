@@ -1,5 +1,4 @@
 // Intervals of equal temperaments by roots, stacked again by whole powers; and money that grows by whole years.
-// Needs: rootn pown
 
 // The step that goes into the interval `parts` times, and so many steps of it.
 __kernel void steps(__global const double16* interval, __global const int16* parts, __global const int16* count,

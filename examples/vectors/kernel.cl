@@ -1,5 +1,4 @@
 // Lengths and directions of vectors, four at a time.
-// Needs: sqrtf rsqrtf rsqrtf_native
 
 __kernel void normalise(__global const float4* x, __global const float4* y, __global const float4* z,
                         __global float4* length, __global float4* unit_x, __global float4* unit_x_native) {

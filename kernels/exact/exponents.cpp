@@ -140,7 +140,6 @@ Scaled add_exponent(I4 word, I4 n, const LdexpData& data) {
 }
 
 struct ldexpf {
-    static constexpr int fill = 1;
     static Lanes<F4> main(F4 x, I4 n) {
         Scaled scaled = add_exponent<float>(bits(x), n, ldexpf_data);
         return {as_float(scaled.word), scaled.rare};
@@ -148,7 +147,6 @@ struct ldexpf {
     static constexpr auto rare = ldexp_rare<float>;
 };
 struct ldexp {
-    static constexpr int fill = 1;
     static Lanes<D4> main(D4 x, I4 n) {
         Scaled scaled = add_exponent<double>(field_words(x), n, ldexp_data);
         return {with_high_halves(x, scaled.word), scaled.rare};

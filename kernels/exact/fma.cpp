@@ -1,7 +1,8 @@
 // a * b + c, rounded once.
 //
 // The target has no fused instruction, so every lane goes through exact integer arithmetic. Single and double
-// precision are the same steps in other word sizes. Correctly rounded in all four modes; the mode is the x87 unit's.
+// precision are the same steps in other word sizes. Correctly rounded in all four modes. The mode is the x87 unit's on
+// i386, and on x86-64, where nothing but MXCSR rules arithmetic, the one that stands there.
 #include "frame/lane_frame.h"
 #include "frame/scalar.h"
 
@@ -10,21 +11,25 @@ namespace {
 
 enum RoundingMode : uint16_t { nearest = 0x000, downward = 0x400, upward = 0x800, mode_field = 0xc00 };
 
-RoundingMode x87_rounding_mode() {
+RoundingMode rounding_mode() {
+#ifdef __x86_64__
+    unsigned control = _mm_getcsr() >> 3;
+#else
     uint16_t control;
     asm volatile("fnstcw %0" : "=m"(control));
+#endif
     return static_cast<RoundingMode>(control & mode_field);
 }
 
 // a * b + c in two roundings. Of several NaN the first goes through, so the operands keep their order.
 float multiply_and_add(float a, float b, float c) {
-    asm("mulss %1, %0" : "+x"(a) : "x"(b));
-    asm("addss %1, %0" : "+x"(a) : "x"(c));
+    asm(IN_ORDER("mulss") : "+x"(a) : "x"(b));
+    asm(IN_ORDER("addss") : "+x"(a) : "x"(c));
     return a;
 }
 double multiply_and_add(double a, double b, double c) {
-    asm("mulsd %1, %0" : "+x"(a) : "x"(b));
-    asm("addsd %1, %0" : "+x"(a) : "x"(c));
+    asm(IN_ORDER("mulsd") : "+x"(a) : "x"(b));
+    asm(IN_ORDER("addsd") : "+x"(a) : "x"(c));
     return a;
 }
 
@@ -117,7 +122,7 @@ Float round_and_pack(typename F::Word sign, int exponent, typename F::Word top) 
         F::raise_inexact();
         if (subnormal) F::raise_underflow();
         constexpr Word tie = Word(1) << (word_bits - 1);
-        RoundingMode mode = x87_rounding_mode();
+        RoundingMode mode = rounding_mode();
         if (__builtin_expect(mode == nearest, 1))
             magnitude += (round_word | (magnitude & 1)) > tie;
         else
@@ -203,7 +208,7 @@ Status fma_rare(const Float* operand_a, const Float* operand_b, const Float* ope
         sign ^= 1;
     }
     if (__builtin_expect(sum == 0, 0)) {
-        *result = x87_rounding_mode() == downward ? -Float(0) : Float(0);
+        *result = rounding_mode() == downward ? -Float(0) : Float(0);
         return RARE_OK;
     }
 

@@ -125,7 +125,8 @@ struct expm1f_native {
         F4 r = x - steps.k * data.step;
         F4 q = data.c2 * (r * r) + r;
         F4 power = as_float(signed_lanes(field) | steps.power);
-        F4 y = power * q + (power - data.one);
+        // In order: the power of a NaN may be another NaN.
+        F4 y = add_in_order(power - data.one, power * q);
         return or_bits(y, bits(x) & data.sign);
     }
 };

@@ -107,7 +107,7 @@ static constexpr AreaLogData<terms> area_log(Coefficients<double, terms> p) {
         .p = p,
         .minus_log =
             {
-#include "kernels/hyperbolic/tables/area_log.inc"
+#include "kernels/explog/tables/log_rows.inc"  // by R
             },
     };
 }

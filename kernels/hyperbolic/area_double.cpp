@@ -88,7 +88,6 @@ D2 acosh_of(D2 x, const Data& data) {
 
 // Error 3.9 ulp; 33.5 with the worst estimates.
 struct acosh {
-    static constexpr int fill = 2;
     static Lanes<D2> main(D2 x) {
         const auto& data = in_memory(acosh_data);
         return {acosh_of(x, data), ~(data.log.one < x) | ~(x <= data.largest)};
@@ -98,7 +97,6 @@ struct acosh {
 
 // Error 2.4e6 ulp; 1.38e7 with the worst estimates.
 struct acosh_native {
-    static constexpr int fill = 2;
     static D2 main(D2 x) { return acosh_of(x, in_memory(acosh_native_data)); }
 };
 

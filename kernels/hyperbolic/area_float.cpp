@@ -94,7 +94,6 @@ F4 acosh_of(F4 x, const Data& data) {
 
 // Error 3.20 ulp at most, at 0x1.01c752p+0: all floats from 1 to 1.125 tried, others at random.
 struct acoshf {
-    static constexpr int fill = 2;
     static Lanes<F4> main(F4 x) {
         const auto& data = in_memory(acoshf_data);
         return {acosh_of(x, data), ~(data.log.one < x) | ~(x <= data.largest)};
@@ -104,7 +103,6 @@ struct acoshf {
 
 // Error 2,300 ulp, at 0x1.06ff84p+0; 2,520 with the worst estimates allowed.
 struct acoshf_native {
-    static constexpr int fill = 2;
     static F4 main(F4 x) { return acosh_of(x, in_memory(acoshf_native_data)); }
 };
 

@@ -132,7 +132,9 @@ struct Acos {
     static Unit of(Unit x, const Data& data) {
         auto argument = acos_argument(x, data);
         auto [y, m, large] = argument;
-        return acos_offset(x, argument, data) + (series(m, data.series) * y + y);
+        // In order, as the signs of a NaN may differ.
+        Unit angle = add_in_order(multiply_in_order(series(m, data.series), y), y);
+        return acos_offset(x, argument, data) + angle;
     }
     static constexpr double at_one = 0, at_minus_one = pi;
 };

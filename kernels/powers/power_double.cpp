@@ -58,7 +58,6 @@ struct powr {
 };
 
 struct pown {
-    static constexpr int fill = 1;
     static Lanes<D2> main(D2 x, N2 n) {
         const auto& data = in_memory(power_double_data);
         L2 sign = odd_sign(n) & bits(x);
@@ -80,7 +79,6 @@ struct pow_native {
 using powr_native = pow_native;
 
 struct pown_native {
-    static constexpr int fill = 1;
     static D2 main(D2 x, N2 n) {
         const auto& data = in_memory(power_native_double_data);
         L2 sign = odd_sign(n) & bits(x);

@@ -104,7 +104,6 @@ struct powrf {
 
 // Error 11.01 ulp, the largest found, at (0x1.fbfec6p-1, -9926); rare lanes 1.65. x^0 is one ulp above 1.
 struct pownf {
-    static constexpr int fill = 1;
     static Lanes<F4> main(F4 x, I4 n) {
         const auto& data = in_memory(pownf_data);
         F4 magnitude = and_bits(x, data.magnitude);
@@ -130,7 +129,6 @@ using powrf_native = powf_native;
 
 // Error 4,941 ulp, the largest found, at (0x1.5565a4p+0, -301).
 struct pownf_native {
-    static constexpr int fill = 1;
     static F4 main(F4 x, I4 n) {
         const auto& data = in_memory(pownf_native_data);
         I4 sign = (n << 31) & bits(x);

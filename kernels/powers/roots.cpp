@@ -53,7 +53,6 @@ inline I4 negative_with_even_root(I4 x, I4 n) { return (x < 0) & ((n << 31) == 0
 
 // Error 15.34 ulp, the largest found, at (0x1.000004p-126, -3); 0.62 where n is a power of two.
 struct rootnf {
-    static constexpr int fill = 1;
     static Lanes<F4> main(F4 x, I4 n) {
         const auto& data = in_memory(rootf_data);
         F4 inverse = data.one / to_float(n);
@@ -82,7 +81,6 @@ struct rootnf {
 
 // Error 0.51 ulp, the largest found; subnormal x 124, by the rare routine's rounded 1/n.
 struct rootn {
-    static constexpr int fill = 1;
     static Lanes<D2> main(D2 x, N2 n) {
         const auto& data = in_memory(power_double_data);
         I4 negative_even = negative_with_even_root(halves(x), n.halves);
@@ -118,7 +116,6 @@ struct rootn {
 
 // Error 1,390 ulp, the largest found, at (0x1.ffe8f6p+98, 1).
 struct rootnf_native {
-    static constexpr int fill = 1;
     static F4 main(F4 x, I4 n) {
         const auto& data = in_memory(pownf_native_data);
         F4 inverse = data.one / to_float(n);
@@ -129,7 +126,6 @@ struct rootnf_native {
 
 // Error 6.5e7 ulp by the exponential.
 struct rootn_native {
-    static constexpr int fill = 1;
     static D2 main(D2 x, N2 n) {
         const auto& data = in_memory(power_native_double_data);
         D2 inverse = data.one / to_double(n);

@@ -27,9 +27,6 @@ struct Reduced {
     Float y, ylo;
 };
 
-// The product of the low halves of 64-bit lanes.
-inline UL2 product(UL2 x, UL2 y) { return unit_cast<UL2>(_mm_mul_epu32(unit_cast<__m128i>(x), unit_cast<__m128i>(y))); }
-
 // The high halves of the products of 16-bit words, each in its place.
 inline UL2 high_words(UL2 x, UL2 y) {
     return unit_cast<UL2>(_mm_mulhi_epu16(unit_cast<__m128i>(x), unit_cast<__m128i>(y)));
@@ -59,7 +56,8 @@ inline UL2 turn_fraction(UL2 m, UL2 mh, UL2 raised_ml, const uint32_t* first_row
     UL2 t0 = unit_cast<UL2>(_mm_unpacklo_epi64(first, second));  // T1 above T0
     UL2 t2 = unit_cast<UL2>(_mm_unpackhi_epi64(first, second));
     UL2 t1 = unsigned_lanes(spread_high(unit_cast<I4>(t0)));
-    return product(m, t1) + (product(m, t0) << 32) + ((product(mh, t2) + high_words(t2, raised_ml)) >> 16);
+    return multiply_low_halves(m, t1) + (multiply_low_halves(m, t0) << 32) +
+           ((multiply_low_halves(mh, t2) + high_words(t2, raised_ml)) >> 16);
 }
 
 inline TurnFraction<U4> turn_fraction(F4 a, const ReductionfData& data) {
@@ -98,13 +96,13 @@ inline TurnFraction<UL2> turn_fraction(D2 a, const ReductiondData& data) {
 
     auto hi = [](UL2 p) { return p >> 32; };
     auto lo = [&data](UL2 p) { return unsigned_lanes(signed_lanes(p) & data.low_half); };
-    UL2 ml_w2h = product(ml, w2h);
-    UL2 ml_w1l = product(ml, w1l), ml_w1h = product(ml, w1h);
-    UL2 ml_w0l = product(ml, w0l), ml_w0h = product(ml, w0h);
-    UL2 a0 = hi(product(mh, w2l)) + product(mh, w2h) + hi(ml_w2h) + lo(ml_w1l);
-    UL2 a1 = product(mh, w1l) + hi(ml_w1l) + lo(ml_w1h) + hi(a0);
-    UL2 a2 = product(mh, w1h) + hi(ml_w1h) + lo(ml_w0l) + hi(a1);
-    UL2 a3 = product(mh, w0l) + hi(ml_w0l) + lo(ml_w0h) + hi(a2);
+    UL2 ml_w2h = multiply_low_halves(ml, w2h);
+    UL2 ml_w1l = multiply_low_halves(ml, w1l), ml_w1h = multiply_low_halves(ml, w1h);
+    UL2 ml_w0l = multiply_low_halves(ml, w0l), ml_w0h = multiply_low_halves(ml, w0h);
+    UL2 a0 = hi(multiply_low_halves(mh, w2l)) + multiply_low_halves(mh, w2h) + hi(ml_w2h) + lo(ml_w1l);
+    UL2 a1 = multiply_low_halves(mh, w1l) + hi(ml_w1l) + lo(ml_w1h) + hi(a0);
+    UL2 a2 = multiply_low_halves(mh, w1h) + hi(ml_w1h) + lo(ml_w0l) + hi(a1);
+    UL2 a3 = multiply_low_halves(mh, w0l) + hi(ml_w0l) + lo(ml_w0h) + hi(a2);
     return {(a3 << 32) + lo(a2), (a1 << 32) + lo(a0)};
 }
 

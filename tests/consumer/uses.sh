@@ -2,9 +2,9 @@
 # Builds and runs a second project against a prefix where the library is installed, once through the CMake package and
 # once through pkg-config.
 #
-#   uses.sh <prefix> <scratch directory> <C compiler> <C++ compiler>
+#   uses.sh <prefix> <scratch directory> <C compiler> <C++ compiler> <32 or 64>
 set -eu
-prefix=$1 scratch=$2 cc=$3 cxx=$4
+prefix=$1 scratch=$2 cc=$3 cxx=$4 word=$5
 source=$(dirname "$0")
 expected="2 3 0.5 -0 0.33333333333333331 0.33333333333333331"
 
@@ -18,7 +18,7 @@ expect() {
 }
 
 cmake -S "$source" -B "$scratch/build" -DCMAKE_PREFIX_PATH="$prefix" -DCMAKE_BUILD_TYPE=Release \
-    -DCMAKE_C_COMPILER="$cc" -DCMAKE_CXX_COMPILER="$cxx" -DCMAKE_C_FLAGS=-m32 -DCMAKE_CXX_FLAGS=-m32 >/dev/null
+    -DCMAKE_C_COMPILER="$cc" -DCMAKE_CXX_COMPILER="$cxx" -DCMAKE_C_FLAGS="-m$word" -DCMAKE_CXX_FLAGS="-m$word" >/dev/null
 cmake --build "$scratch/build" >/dev/null
 expect "$scratch/build/from_c"
 expect "$scratch/build/from_cpp"

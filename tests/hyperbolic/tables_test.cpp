@@ -21,7 +21,7 @@ const TanhRow tanh_rows[60] = {
 #include "kernels/hyperbolic/tables/tanh_rows.inc"
 };
 const double area_log[513] = {
-#include "kernels/hyperbolic/tables/area_log.inc"
+#include "kernels/explog/tables/log_rows.inc"
 };
 
 TEST(HyperbolicTables, FixedRows) {

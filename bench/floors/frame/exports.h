@@ -5,14 +5,12 @@
 #include "include/grid_names.h"
 
 #define IS_HERE(home) SECOND_OF(HOME_##home, elsewhere, )
-#define SECOND_OF(...) SECOND_OF_(__VA_ARGS__)
-#define SECOND_OF_(first, second, ...) second
 
 #define FAMILY(base, precision, class_, signature, home, traits, bound) \
     PASTE(ROW_, IS_HERE(home))(FAMILY_NAME(base, precision, class_))
 #define ROW_elsewhere(name)
-#define ROW_here(name)                               \
-    extern const bench::Pass PASTE(floor_of_, name); \
-    constinit const bench::Pass PASTE(floor_of_, name) = bench::floor_pass<zorv::name>();
+#define ROW_here(name)                                       \
+    extern const bench::FloorPasses PASTE(floors_of_, name); \
+    constinit const bench::FloorPasses PASTE(floors_of_, name) = bench::floor_passes_of<zorv::name>();
 
 #include "include/grid.def"
