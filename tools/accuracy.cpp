@@ -16,7 +16,7 @@
 //   --markdown FILE    renew the families' rows in the tables of FILE, a table for each group; other rows stay
 //   --picture DIR      draw accuracy-<family>.svg: the error over the operand, range by range (gnuplot); none for
 //                      what is exact
-//   --pictures DIR     draw accuracy-<group>.svg for the families' groups: the first range of each family in them
+//   --pictures DIR     draw accuracy-<group>.png for the families' groups: the first range of each family in them
 //   --sample N         random operands in each panel of a picture; 50000 by default
 //
 // Prints for each range the largest error, the operands and the result there. Every figure is MPFR's; a fixed seed
@@ -249,7 +249,7 @@ void update_markdown(const std::string& path, const std::map<std::string, std::v
         for (const grid::Family& each : grid::families()) {
             if (accuracy::group_of(each).folder != group.folder || rows[each.name].empty()) continue;
             if (!begun) {
-                std::string picture = "pictures/accuracy-" + std::string(group.folder) + ".svg";
+                std::string picture = "pictures/accuracy-" + std::string(group.folder) + ".png";
                 file << "\n## " << group.title << "\n\n";
                 if (std::ifstream(pictures + picture).good())
                     file << "![Errors of random operands over the range, family by family, below the bound](" << picture
@@ -400,9 +400,10 @@ void draw_group(const accuracy::Group& group, const std::string& directory, uint
     int columns = std::clamp(static_cast<int>(std::ceil(std::sqrt(1.5 * count))), 2, 7);
     int lines = (count + columns - 1) / columns;
     std::FILE* plot = open_plot();
+    // Of so many points a bitmap is the smaller file by far.
     std::fprintf(
-        plot, "set terminal svg size %d,%d font 'sans,9' background 'white'\nset output '%s/accuracy-%.*s.svg'\n",
-        200 * columns, 150 * lines + 40, directory.c_str(), static_cast<int>(group.folder.size()), group.folder.data());
+        plot, "set terminal pngcairo size %d,%d font 'sans,9' background 'white'\nset output '%s/accuracy-%.*s.png'\n",
+        240 * columns, 180 * lines + 40, directory.c_str(), static_cast<int>(group.folder.size()), group.folder.data());
     std::fprintf(plot, "set multiplot layout %d,%d title '%.*s' noenhanced\n", lines, columns,
                  static_cast<int>(group.title.size()), group.title.data());
     std::fprintf(plot, "set key off\nset tics scale 0.5\nset lmargin 7\nset rmargin 2\n");
