@@ -140,7 +140,9 @@ def write_operations(families):
 
 def copy_pages(places):
     """The repository's pages and the files that they link to; families in the first cells of tables become links."""
-    for page in [repository / "README.md", repository / "CONTRIBUTING.md", *sorted(repository.glob("docs/*.md"))]:
+    for page in [repository / "README.md", repository / "CONTRIBUTING.md",
+                 *(repository / name for name in ("CHANGELOG.md", "SECURITY.md")),
+                 *sorted(repository.glob("docs/*.md"))]:
         text = page.read_text()
         for link in re.findall(r"\]\(([^):# ]+)[^) ]*\)", text):
             source = page.parent / link
@@ -167,7 +169,9 @@ def main():
     navigation = [
         {"Overview": "README.md"},
         {"Families": [{"All": "docs/families.md"}, *operations]},
-        {"Use": [{"Calling convention": "docs/calling-convention.md"}, {"Differences": "docs/differences.md"}]},
+        {"Use": [{"Calling convention": "docs/calling-convention.md"}, {"Differences": "docs/differences.md"},
+                 {"Compilers": "docs/compilers.md"}, {"Changes and versions": "CHANGELOG.md"},
+                 {"Security": "SECURITY.md"}]},
         {"Measured": [{"Accuracy": "docs/accuracy.md"}, {"Performance": "docs/performance.md"}]},
         {"Inside": [{"Architecture": "docs/architecture.md"}, {"Contributing": "CONTRIBUTING.md"}]},
     ]
