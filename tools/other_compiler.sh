@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
 # Builds the library and the unit tests with another clang, runs them, and compares what its library computes with what
-# the usual one's does, bit by bit over every export. About ten minutes on two cores.
+# the usual one's does, bit by bit over every export.
 #
 #   tools/other_compiler.sh [clang-19]       without a name, the newest clang-<version> that the machine has
 set -euo pipefail
