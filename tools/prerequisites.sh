@@ -19,6 +19,9 @@ have() {
     libbenchmark-dev:i386) [ -e $libraries/libbenchmark.a ] || [ -e $libraries/libbenchmark.so ] ;;
     libmpfr-dev:i386) [ -e $libraries/libmpfr.so ] && [ -e $libraries/libgmp.so ] ;;
     libsleef-dev:i386) [ -e $libraries/libsleef.so ] ;;
+    pocl-opencl-icd) [ -e /etc/OpenCL/vendors/pocl.icd ] ;;
+    ocl-icd-opencl-dev) [ -e /usr/lib/x86_64-linux-gnu/libOpenCL.so ] ;;
+    opencl-headers) [ -e /usr/include/CL/cl_layer.h ] ;;
     libxsimd-dev) [ -d /usr/include/xsimd ] ;;
     *) command -v "$1" >/dev/null ;;
     esac
