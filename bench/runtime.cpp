@@ -10,6 +10,7 @@
 
 #include <algorithm>
 #include <chrono>
+#include <cstring>
 #include <iostream>
 #include <memory>
 #include <sstream>
@@ -196,8 +197,9 @@ Comparison compare(Process& its, Process& ours, const Family& family, int width,
 }
 
 std::string error_text(double error) {
+    if (error < 0) return "";
     char text[32];
-    std::snprintf(text, sizeof text, error < 0 ? "" : error >= 1000 ? "%.1e" : error >= 10 ? "%.0f" : "%.2f", error);
+    std::snprintf(text, sizeof text, "%.*g", error < 1000 ? 3 : 2, error);
     return text;
 }
 

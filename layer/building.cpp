@@ -2,7 +2,6 @@
 
 #include <algorithm>
 #include <sstream>
-#include <string_view>
 
 #include "layer/programs.h"
 
@@ -21,14 +20,21 @@ bool makes_library(const char* options) {
     return std::find(words.begin(), words.end(), "-create-library") != words.end();
 }
 
-// Of the options of a build those that a linker takes as well.
-std::string link_options_of(const char* options) {
-    std::string result;
-    for (const std::string& word : words_of(options))
+// Of the options of a build those that a linker may take as well: all that run-times know, those that every one knows,
+// none. Some take the relaxations of arithmetic for nothing but libraries; the compiler has been told of them already.
+std::vector<std::string> link_options_of(const char* options) {
+    std::string relaxations, information;
+    for (const std::string& word : words_of(options)) {
+        if (word == "-cl-kernel-arg-info") information = " " + word;
         for (const char* known : {"-cl-denorms-are-zero", "-cl-no-signed-zeros", "-cl-unsafe-math-optimizations",
                                   "-cl-finite-math-only", "-cl-fast-relaxed-math", "-cl-no-subgroup-ifp"})
-            if (word == known) result += (result.empty() ? "" : " ") + word;
-    return result;
+            if (word == known) relaxations += " " + word;
+    }
+    std::vector<std::string> choices = {""};
+    for (const std::string& choice : {information, relaxations + information})
+        if (choice != choices.back()) choices.push_back(choice);
+    std::reverse(choices.begin(), choices.end());
+    return choices;
 }
 
 // The linked program, or null: one that failed has its use for nobody.
@@ -50,16 +56,12 @@ std::shared_ptr<const Executable> executable_with(Library& library, cl_program p
     std::vector<cl_program> inputs = {program};
     *error = CL_INVALID_BINARY;
     if (!library.add_needed(inputs, devices)) return nullptr;
-    auto link = [&](const std::string& words) {
-        return OwnedProgram(link_all(context_of(program), static_cast<cl_uint>(devices.size()), devices.data(),
-                                     words.c_str(), inputs, error));
-    };
-    std::string link_options = link_options_of(options);
-    OwnedProgram linked = link(link_options);
-    // Some run-times take these options for nothing but libraries; the compiled program has been told already.
-    if (!linked && !link_options.empty()) linked = link("");
-    if (!linked) return nullptr;
-    return std::make_shared<Executable>(Executable{std::move(linked), devices});
+    for (const std::string& link_options : link_options_of(options)) {
+        OwnedProgram linked(link_all(context_of(program), static_cast<cl_uint>(devices.size()), devices.data(),
+                                     link_options.c_str(), inputs, error));
+        if (linked) return std::make_shared<Executable>(Executable{std::move(linked), devices});
+    }
+    return nullptr;
 }
 
 void tell_of_failure(const char* what, cl_int error) {

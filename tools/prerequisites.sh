@@ -59,6 +59,9 @@ have() {
     libmpfr-dev) [ -e $libraries/libmpfr.so ] && [ -e $libraries/libgmp.so ] ;;
     libsleef-dev) [ -e $libraries/libsleef.so ] ;;
     libxsimd-dev) [ -d /usr/include/xsimd ] ;;
+    pocl-opencl-icd) [ -e /etc/OpenCL/vendors/pocl.icd ] ;;
+    ocl-icd-opencl-dev) [ -e $libraries/libOpenCL.so ] ;;
+    opencl-headers) [ -e /usr/include/CL/cl_layer.h ] ;;
     mkdocs-material) mkdocs build --help 2>/dev/null | grep -q material ;;
     *) command -v "$1" ;;
     esac >/dev/null 2>&1
