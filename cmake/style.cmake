@@ -10,7 +10,7 @@ if(NOT CLANG_FORMAT OR NOT CLANG_TIDY)
   return()
 endif()
 
-set(style_folders frame kernels include tools tests bench examples)
+set(style_folders frame kernels include tools tests bench examples layer)
 list(TRANSFORM style_folders APPEND "/*.h" OUTPUT_VARIABLE header_patterns)
 list(TRANSFORM style_folders APPEND "/*.cpp" OUTPUT_VARIABLE source_patterns)
 file(GLOB_RECURSE style_headers CONFIGURE_DEPENDS ${header_patterns})
