@@ -119,8 +119,12 @@ ALWAYS_INLINE auto vector_in(Type travelling) {
         precision, width)
 #define EXPORT_pair_1(name, frame, pair, precision, width) \
     EXPORTED F(precision, 2) name(F(precision, width) x) { return frame<width>::call_for_pair(x); }
-#define EXPORT_pair_wide(name, frame, pair, precision, width) \
-    EXPORTED pair name(F(precision, width) x) { OUT(pair, frame<width>::call_for_pair(IN(x))); }
+#define EXPORT_pair_wide(name, frame, pair, precision, width)                         \
+    EXPORTED pair name(F(precision, width) x) {                                       \
+        using Half = F(precision, width);                                             \
+        auto both = frame<width>::call_for_pair(IN(x));                               \
+        return {zorv::image_of<Half>(both.first), zorv::image_of<Half>(both.second)}; \
+    }
 #define EXPORT_pair_2 EXPORT_pair_wide
 #define EXPORT_pair_3 EXPORT_pair_wide
 #define EXPORT_pair_4 EXPORT_pair_wide

@@ -531,24 +531,23 @@ string call_text(const Overload& overload) {
     return overload.width == 3 ? as_vector(text, s.result, 3) : text;
 }
 
+// Before what the library does not define itself.
+string attributes(const Overload& overload) {
+    if (overload.server == Server::nobody) return "__ZORV_REFUSED(\"" + overload.name + " is for float and double\") ";
+    return signature_of(overload.family).pointer.empty() ? "__ZORV_LEFT " : "__attribute__((overloadable)) ";
+}
+
 // Without a second result.
 void print_overload(const Overload& overload) {
     Signature s = signature_of(overload.family);
     string head = opencl_vector(s.result, overload.width) + " " + overload.name + "(" + parameters_text(overload) + ")";
-    switch (overload.server) {
-        case Server::library: {
-            string line = "__ZORV_OVERLOAD " + head + " { return " + call_text(overload) + "; }";
-            if (line.size() > 118) line = "__ZORV_OVERLOAD " + head + " {\n    return " + call_text(overload) + ";\n}";
-            std::puts(line.c_str());
-            return;
-        }
-        case Server::run_time:
-            std::printf("__ZORV_LEFT %s;\n", head.c_str());
-            return;
-        case Server::nobody:
-            std::printf("__ZORV_REFUSED(\"%s is for float and double\") %s;\n", overload.name.c_str(), head.c_str());
-            return;
+    if (overload.server != Server::library) {
+        std::puts((attributes(overload) + head + ";").c_str());
+        return;
     }
+    string line = "__ZORV_OVERLOAD " + head + " { return " + call_text(overload) + "; }";
+    if (line.size() > 118) line = "__ZORV_OVERLOAD " + head + " {\n    return " + call_text(overload) + ";\n}";
+    std::puts(line.c_str());
 }
 
 // The export writes to private memory; the overload carries the value to the space that the caller named.
@@ -564,7 +563,7 @@ void print_overload_to(const string& space, const Overload& overload) {
                     call_text(overload).c_str(),
                     overload.width == 3 ? as_vector("__second", s.pointer, 3).c_str() : "__second");
     else
-        std::printf("__attribute__((overloadable)) %s;\n", head.c_str());
+        std::puts((attributes(overload) + head + ";").c_str());
 }
 
 void print_overloads(const std::vector<Overload>& overloads) {

@@ -1,10 +1,29 @@
 # Sourced by ./demo, ./check and .ci/run: finds out what a machine lacks and installs it, or says how to.
 # shellcheck shell=bash
 
+# choose_targets <arguments...>: the targets, as the first argument names one of them or none; `rest` is what follows.
+# shellcheck disable=SC2034 # used by the scripts that source this
+choose_targets() {
+    targets="i386 x86_64"
+    case ${1-} in
+    i386 | x86_64)
+        targets=$1
+        shift
+        ;;
+    esac
+    rest=("$@")
+}
+
+# preset_for <target> <preset for i386>: the preset of its kind for the target.
+preset_for() {
+    if [ "$1" = x86_64 ]; then echo "${2}64"; else echo "$2"; fi
+}
+
 # Does the machine have what this Debian package brings? Found by using it, so another system's package counts too.
 have() {
-    local libraries=/usr/lib/i386-linux-gnu
-    case $1 in
+    local libraries=/usr/lib/x86_64-linux-gnu
+    case $1 in *:i386) libraries=/usr/lib/i386-linux-gnu ;; esac
+    case ${1%:i386} in
     clang)
         command -v clang++ >/dev/null && [ "$(clang -dumpversion | cut -d. -f1)" -ge 14 ]
         ;;
@@ -15,14 +34,16 @@ have() {
         ;;
     ninja-build) command -v ninja >/dev/null ;;
     gnuplot-nox) command -v gnuplot >/dev/null ;;
-    libgtest-dev:i386) [ -e $libraries/libgtest.a ] ;;
-    libbenchmark-dev:i386) [ -e $libraries/libbenchmark.a ] || [ -e $libraries/libbenchmark.so ] ;;
-    libmpfr-dev:i386) [ -e $libraries/libmpfr.so ] && [ -e $libraries/libgmp.so ] ;;
-    libsleef-dev:i386) [ -e $libraries/libsleef.so ] ;;
+    llvm) command -v llvm-link >/dev/null ;;
+    libgtest-dev) [ -e $libraries/libgtest.a ] ;;
+    libbenchmark-dev) [ -e $libraries/libbenchmark.a ] || [ -e $libraries/libbenchmark.so ] ;;
+    libmpfr-dev) [ -e $libraries/libmpfr.so ] && [ -e $libraries/libgmp.so ] ;;
+    libsleef-dev) [ -e $libraries/libsleef.so ] ;;
     pocl-opencl-icd) [ -e /etc/OpenCL/vendors/pocl.icd ] ;;
     ocl-icd-opencl-dev) [ -e /usr/lib/x86_64-linux-gnu/libOpenCL.so ] ;;
     opencl-headers) [ -e /usr/include/CL/cl_layer.h ] ;;
     libxsimd-dev) [ -d /usr/include/xsimd ] ;;
+    g++) echo '#include <cstdio>' | clang++ -fsyntax-only -x c++ - 2>/dev/null ;;
     *) command -v "$1" >/dev/null ;;
     esac
 }

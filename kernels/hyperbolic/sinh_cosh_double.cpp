@@ -46,7 +46,8 @@ inline D2 sinh_by_steps(D2 x, const SinhData& data) {
     D2 q = r * r;
     D2 sr = r + horner(q, data.s) * q * r;
     D2 cr = horner(q, data.c) * q;
-    D2 y = (sr * c + cr * s) + s;
+    // In order: beside a NaN the table's numbers may be other ones.
+    D2 y = add_in_order(add_in_order(multiply_in_order(sr, c), cr * s), s);
     return or_bits(y, bits(x) & data.sign);
 }
 
@@ -76,7 +77,7 @@ inline D2 cosh_by_steps(D2 a, const CoshData& data) {
     D2 q = r * r;
     D2 sr = r + horner(q, data.s) * q * r;
     D2 cr = horner(q, data.c) * q;
-    return (cr * c + sr * s) + c;
+    return add_in_order(add_in_order(multiply_in_order(cr, c), sr * s), c);  // in order, likewise
 }
 
 // Error 1.48 ulp at most, at -0x1.edde2980a24e3p+0, operands tried at random; rare lanes 0.52.

@@ -69,8 +69,9 @@ template <class Unit, class Data>
 inline TwiceRoot<Unit> twice_root(Unit h, const Data& data) {
     Unit r = rsqrt_estimate(h);
     Unit t = h + h;
-    Unit root = t * r;
-    Unit e = t * (r * r) - data.two;
+    // In order: the estimate cuts the payload of a NaN.
+    Unit root = multiply_in_order(t, r);
+    Unit e = multiply_in_order(t, r * r) - data.two;
     return {root, horner(e, data.root) * (root * e)};
 }
 

@@ -31,7 +31,8 @@ inline F4 erff_main(F4 x, const ErffData& data) {
     F4 w = and_bits(x, data.magnitude) - d;
     F4 t = horner(w, c4, c3, c2, g_tail) * w;
     auto [w_head, w_tail] = split_by_mask(w, data.head);
-    F4 y = (w_head * g_head + ((w_tail * g_head + t) + v_tail)) + v_head;  // the first product is exact
+    // The product of the heads is exact, but cuts the payload of a NaN: it comes second.
+    F4 y = add_in_order((w_tail * g_head + t) + v_tail, w_head * g_head) + v_head;
     return or_bits(y, bits(x) & data.sign);
 }
 
@@ -148,7 +149,8 @@ inline D2 erfc_main(D2 x, const ErfcCoreData& data) {
 
     // 2 for a negative x, as its sign bit moved to the top of the exponent field.
     D2 two = as_double(signed_lanes(unsigned_lanes(sign) >> 1));
-    return p * v * or_bits(scale, sign) + two;
+    // In order: of a NaN the two factors have different signs.
+    return multiply_in_order(p, v) * or_bits(scale, sign) + two;
 }
 
 // Beyond the last ordinary operand the result is 2, or below the smallest number. `last` is where it is that number

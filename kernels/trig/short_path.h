@@ -17,13 +17,14 @@ inline Unit subtract_parts(Unit y, Unit n, const Slot<Lane> (&parts)[count], int
     return y;
 }
 
-// y + y (c1 y^2 + c2 y^4 + ...), w = y^2. The coefficients stand lowest first.
+// y + y (c1 y^2 + c2 y^4 + ...), w = y^2. The coefficients stand lowest first. Of a NaN y may have the other sign by
+// then, so the last steps keep their order.
 template <class Unit, class Lane, int count>
 inline Unit sine_polynomial(Unit y, Unit w, const Slot<Lane> (&c)[count]) {
     Unit p = c[count - 1];
     for (int i = count - 1; i-- > 0;) p = p * w + c[i];
     p = p * w;
-    return p * y + y;
+    return add_in_order(multiply_in_order(p, y), y);
 }
 
 // sin(+-y) = +-sin y: the sign joins late, off the chain of dependent steps.

@@ -2,17 +2,22 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <climits>
 #include <cmath>
 #include <vector>
 
-#define EACH_WIDTH(macro, lane) macro(lane, , 1, 1) macro(lane, 3, 3, 4) macro(lane, 16, 16, 16)
-#define DECLARE(lane, width, lanes, stride)                                      \
-    void scalars_##lane##width(const lane* x, lane limit, int n, lane* results); \
-    void spaces_##lane##width(const lane* x, const lane* y, int* quotient, int* exponent, lane* whole, lane* cosine);
+#define EACH_KERNEL(macro, lane)                                                                                       \
+    macro(lane, , 1, 1, named) macro(lane, 3, 3, 4, named) macro(lane, 16, 16, 16, named) macro(lane, , 1, 1, generic) \
+        macro(lane, 3, 3, 4, generic) macro(lane, 16, 16, 16, generic)
+#define DECLARE(lane, width, lanes, stride, pointers)                                                               \
+    void scalars_##pointers##_##lane##width(const lane* x, lane limit, int n, lane* results);                       \
+    void spaces_##pointers##_##lane##width(const lane* x, const lane* y, int* quotient, int* exponent, lane* whole, \
+                                           lane* cosine);
 extern "C" {
-EACH_WIDTH(DECLARE, float)
-EACH_WIDTH(DECLARE, double)
+EACH_KERNEL(DECLARE, float)
+EACH_KERNEL(DECLARE, double)
 void without_exponent(int* named);
+void plain_conversions(const unsigned char* bytes, const double* reals, float* results, int* integers);
 }
 
 namespace {
@@ -24,9 +29,10 @@ struct Width {
     void (*scalars)(const Lane*, Lane, int, Lane*);
     void (*spaces)(const Lane*, const Lane*, int*, int*, Lane*, Lane*);
 };
-#define WIDTH(lane, width, lanes, stride) {lanes, stride, scalars_##lane##width, spaces_##lane##width},
-const std::vector<Width<float>> float_widths = {EACH_WIDTH(WIDTH, float)};
-const std::vector<Width<double>> double_widths = {EACH_WIDTH(WIDTH, double)};
+#define WIDTH(lane, width, lanes, stride, pointers) \
+    {lanes, stride, scalars_##pointers##_##lane##width, spaces_##pointers##_##lane##width},
+const std::vector<Width<float>> float_widths = {EACH_KERNEL(WIDTH, float)};
+const std::vector<Width<double>> double_widths = {EACH_KERNEL(WIDTH, double)};
 
 template <class Lane>
 void expect_scalars_for_each_lane(const std::vector<Width<Lane>>& widths) {
@@ -76,6 +82,22 @@ TEST(Kernel, NamesOfWhatHasNoExponent) {
     int named[2] = {};
     without_exponent(named);
     EXPECT_TRUE(named[0] && named[1]);
+}
+
+TEST(Kernel, ConversionsOfItsOwn) {
+    alignas(4) const unsigned char bytes[4] = {1, 127, 255, 0};
+    alignas(32) const double reals[4] = {-0.0, 0x1.000001p0, 0x1.000003p0, 0};
+    alignas(16) float results[8];
+    alignas(16) int integers[8];
+    plain_conversions(bytes, reals, results, integers);
+    const float to_nearest[] = {-0.0f, 1, 0x1.000004p0f};
+    for (size_t i = 0; i < 3; ++i) {
+        EXPECT_EQ(static_cast<float>(bytes[i]), results[i]);
+        EXPECT_EQ(to_nearest[i], results[4 + i]);
+        EXPECT_EQ(static_cast<signed char>(bytes[i]), integers[i]);
+        EXPECT_EQ(INT_MIN, integers[4 + i]);
+    }
+    EXPECT_TRUE(std::signbit(results[4]));
 }
 
 }  // namespace

@@ -65,8 +65,9 @@ bool reads_own_address(const Instruction& i, const std::string& function) {
 }
 // The last operand is the destination; compares and jumps have none.
 bool stores_to_memory(const Instruction& i) {
-    static const std::set<std::string> reading = {"cmp", "cmpl", "test", "testb", "testl", "bt",  "call",
-                                                  "jmp", "push", "flds", "fldl",  "nopl",  "nopw"};
+    static const std::set<std::string> reading = {
+        "cmp",  "cmpl", "test", "testb", "testl", "bt", "call",  "jmp",
+        "push", "flds", "fldl", "nopl",  "nopw",  "cs", "data16"};  // prefixes of padding
     if (reading.contains(i.mnemonic) || is_conditional_jump(i) || i.operands.empty()) return false;
     int depth = 0;
     size_t destination = 0;
@@ -125,6 +126,7 @@ TEST(Disassembly, TellsStoresFromLoads) {
     EXPECT_FALSE(stores_to_memory({"mulps", "0x10(%esp),%xmm0"}));
     EXPECT_FALSE(stores_to_memory({"mov", "0x4(%ecx,%edx,4),%eax"}));
     EXPECT_FALSE(stores_to_memory({"lea", "-0x4(%eax),%eax"}));
+    EXPECT_FALSE(stores_to_memory({"cs", "nopw 0x0(%rax,%rax,1)"}));
     EXPECT_FALSE(stores_to_memory({"addps", "%xmm1,%xmm0"}));
 }
 

@@ -13,7 +13,7 @@ configure() { # <arguments...>
     cmake -S "$tests" -B "$scratch/build" -G Ninja -DZORV_SOURCE="$source" -DCMAKE_C_COMPILER="$cc" \
         -DCMAKE_CXX_COMPILER="$cxx" "$@"
 }
-configure -DCMAKE_C_FLAGS=-m$word -DCMAKE_CXX_FLAGS=-m$word >/dev/null
+configure -DCMAKE_C_FLAGS="-m$word" -DCMAKE_CXX_FLAGS="-m$word" >/dev/null
 cmake --build "$scratch/build" --target CMakeFiles/from_c.dir/main.c.o CMakeFiles/from_cpp.dir/main.cpp.o >/dev/null
 "$cc" "-m$word" "$scratch/build/CMakeFiles/from_c.dir/main.c.o" "$build/__ocl_zorv_v8.so" -o "$scratch/from_c"
 [ "$(LD_LIBRARY_PATH=$build "$scratch/from_c")" = "2 3 0.5 -0 0.33333333333333331 0.33333333333333331" ]

@@ -18,7 +18,7 @@ expect() {
 }
 
 cmake -S "$source" -B "$scratch/build" -DCMAKE_PREFIX_PATH="$prefix" -DCMAKE_BUILD_TYPE=Release \
-    -DCMAKE_C_COMPILER="$cc" -DCMAKE_CXX_COMPILER="$cxx" -DCMAKE_C_FLAGS=-m$word -DCMAKE_CXX_FLAGS=-m$word >/dev/null
+    -DCMAKE_C_COMPILER="$cc" -DCMAKE_CXX_COMPILER="$cxx" -DCMAKE_C_FLAGS="-m$word" -DCMAKE_CXX_FLAGS="-m$word" >/dev/null
 cmake --build "$scratch/build" >/dev/null
 expect "$scratch/build/from_c"
 expect "$scratch/build/from_cpp"

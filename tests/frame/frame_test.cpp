@@ -334,7 +334,7 @@ TEST(Frame, FillLanes) {
     EXPECT_EQ(7.0f, first[2]);
     EXPECT_EQ(3, second[2]);
     Vector<double, 3> y;
-    auto x =
+    Vector<double, 3> x =
         Frame<TwoFillsSeen, 3>::call_with_pointer(Vector<double, 3>{1, 2, 3, -1}, Vector<double, 3>{4, 5, 6, 0}, &y);
     EXPECT_EQ(0.75, x[3]);
     EXPECT_EQ(0.75, y[3]);
@@ -378,8 +378,8 @@ void expect_converted(double sign) {
         operand = static_cast<From>(value(0));
     else
         for (unsigned lane = 0; lane < room<width>; ++lane) operand[lane] = static_cast<From>(value(lane));
-    auto result = Frame<Kernel, width>::call(operand);
-    static_assert(std::is_same_v<decltype(result), Vector<To, width>>);
+    static_assert(std::is_same_v<typename Frame<Kernel, width>::Value, Vector<To, width>>);
+    Vector<To, width> result = Frame<Kernel, width>::call(operand);
     if constexpr (width == 1)
         EXPECT_EQ(static_cast<To>(value(0)), result);
     else
@@ -407,8 +407,10 @@ TEST(Frame, NanCodes) {
     };
     EXPECT_EQ(5u, bits_of(Frame<CodeF, 4>::call(U4{1, 2, 3, 5})[3]));
     EXPECT_EQ(0u, bits_of(Frame<CodeF, 3, grid::fill_zero>::call(U4{1, 2, 3, 5})[3]));
-    EXPECT_EQ(0u, bits_of(Frame<Code, 3, grid::fill_zero>::call(Vector<uint64_t, 3>(0x500000000))[3]));
-    EXPECT_EQ(0x500000000u, bits_of(Frame<Code, 16>::call(Vector<uint64_t, 16>(0x500000000))[15]));
+    Vector<double, 3> three = Frame<Code, 3, grid::fill_zero>::call(Vector<uint64_t, 3>(0x500000000));
+    Vector<double, 16> sixteen = Frame<Code, 16>::call(Vector<uint64_t, 16>(0x500000000));
+    EXPECT_EQ(0u, bits_of(three[3]));
+    EXPECT_EQ(0x500000000u, bits_of(sixteen[15]));
 }
 
 // The whole-vector choice: one lane beyond the limit takes all lanes along, and rare lanes exist there only.
@@ -435,7 +437,7 @@ void check_whole_vector() {
         x[width - 1] = beyond == width - 1 ? 101 : -3;
         if (width == 3) x[3] = 1000;  // the fill never selects the long path
         rare_calls.clear();
-        auto result = Frame<WholeVector<Units>, width>::call(x);
+        Vector<Scalar, width> result = Frame<WholeVector<Units>, width>::call(x);
         for (int lane = 0; lane < width; ++lane) {
             Scalar expected = beyond < 0 ? x[lane] + 1 : x[lane] < 0 ? -1 : x[lane] + 500;
             EXPECT_EQ(expected, result[lane]) << "width " << width << " lane " << lane << " beyond " << beyond;
