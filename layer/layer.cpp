@@ -107,8 +107,10 @@ cl_int CL_API_CALL get_program_info(cl_program program, cl_program_info info, si
 cl_int CL_API_CALL get_program_build_info(cl_program program, cl_device_id device, cl_program_build_info info,
                                           size_t room, void* place, size_t* size_returned) {
     std::optional<Program> known = programs().find(program);
-    if (known && known->options && info == CL_PROGRAM_BUILD_OPTIONS)
-        return answer(known->options->c_str(), known->options->size() + 1, room, place, size_returned);
+    if (known && known->options && info == CL_PROGRAM_BUILD_OPTIONS) {
+        const std::string& options = *known->options;
+        return answer(options.c_str(), options.size() + 1, room, place, size_returned);
+    }
     bool of_executable = info == CL_PROGRAM_BINARY_TYPE || info == CL_PROGRAM_BUILD_GLOBAL_VARIABLE_TOTAL_SIZE;
     if (known && known->executable && of_executable) program = known->executable->program.get();
     return target.clGetProgramBuildInfo(program, device, info, room, place, size_returned);
@@ -183,32 +185,34 @@ cl_icd_dispatch make_dispatch() {
 
 extern "C" {
 
-__attribute__((visibility("default"))) CL_API_ENTRY cl_int CL_API_CALL clGetLayerInfo(cl_layer_info info, size_t room,
-                                                                                      void* place,
-                                                                                      size_t* size_returned) {
+__attribute__((visibility("default"))) CL_API_ENTRY cl_int CL_API_CALL clGetLayerInfo(cl_layer_info param_name,
+                                                                                      size_t param_value_size,
+                                                                                      void* param_value,
+                                                                                      size_t* param_value_size_ret) {
     static const cl_layer_api_version version = CL_LAYER_API_VERSION_100;
     static const char name[] = "ocl_zorv_v8";
-    switch (info) {
+    switch (param_name) {
         case CL_LAYER_API_VERSION:
-            return layer::answer(&version, sizeof version, room, place, size_returned);
+            return layer::answer(&version, sizeof version, param_value_size, param_value, param_value_size_ret);
         case CL_LAYER_NAME:
-            return layer::answer(name, sizeof name, room, place, size_returned);
+            return layer::answer(name, sizeof name, param_value_size, param_value, param_value_size_ret);
         default:
             return CL_INVALID_VALUE;
     }
 }
 
 __attribute__((visibility("default"))) CL_API_ENTRY cl_int CL_API_CALL
-clInitLayer(cl_uint entries, const cl_icd_dispatch* target, cl_uint* entries_returned,
-            const cl_icd_dispatch** dispatch_returned) {
+clInitLayer(cl_uint num_entries, const cl_icd_dispatch* target_dispatch, cl_uint* num_entries_ret,
+            const cl_icd_dispatch** layer_dispatch_ret) {
     static cl_icd_dispatch dispatch;
-    if (target == nullptr || entries_returned == nullptr || dispatch_returned == nullptr) return CL_INVALID_VALUE;
+    if (target_dispatch == nullptr || num_entries_ret == nullptr || layer_dispatch_ret == nullptr)
+        return CL_INVALID_VALUE;
     // An older loader has fewer functions; the compiler and the linker apart came with OpenCL 1.2.
-    std::memcpy(&layer::target, target, std::min(entries * sizeof(void*), sizeof layer::target));
+    std::memcpy(&layer::target, target_dispatch, std::min(num_entries * sizeof(void*), sizeof layer::target));
     if (layer::target.clCompileProgram == nullptr || layer::target.clLinkProgram == nullptr) return CL_INVALID_VALUE;
     dispatch = layer::make_dispatch();
-    *dispatch_returned = &dispatch;
-    *entries_returned = static_cast<cl_uint>(std::min<size_t>(entries, sizeof dispatch / sizeof(void*)));
+    *layer_dispatch_ret = &dispatch;
+    *num_entries_ret = static_cast<cl_uint>(std::min<size_t>(num_entries, sizeof dispatch / sizeof(void*)));
     return CL_SUCCESS;
 }
 

@@ -63,8 +63,8 @@ int main() {
     constexpr size_t count = 1 << 16, function_count = sizeof functions / sizeof *functions;
     std::vector<float> x(count), y(count * function_count);
     for (size_t i = 0; i < count; ++i) x[i] = 1 + static_cast<float>(i) * 0.1f;
-    cl_mem in = clCreateBuffer(context, CL_MEM_READ_ONLY | CL_MEM_COPY_HOST_PTR, x.size() * sizeof(float), x.data(),
-                               &error);
+    cl_mem in =
+        clCreateBuffer(context, CL_MEM_READ_ONLY | CL_MEM_COPY_HOST_PTR, x.size() * sizeof(float), x.data(), &error);
     check(error, "clCreateBuffer");
     cl_mem out = clCreateBuffer(context, CL_MEM_WRITE_ONLY, y.size() * sizeof(float), nullptr, &error);
     check(error, "clCreateBuffer");
