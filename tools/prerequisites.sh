@@ -50,7 +50,6 @@ have() {
     ninja-build) command -v ninja ;;
     gnuplot-nox) command -v gnuplot ;;
     llvm) command -v llvm-link ;;
-    opencl-headers) [ -e /usr/include/CL/cl_layer.h ] ;;
     dpkg-dev) command -v dpkg-buildpackage ;;
     debhelper) command -v dh ;;
     binutils-i686-linux-gnu) command -v i686-linux-gnu-objcopy ;;
