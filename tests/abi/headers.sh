@@ -31,7 +31,7 @@ signatures() {
         /overloadable/ && !/unavailable/ {
             while (match($0, /__attribute__\(\([a-z_, ]*(\([^()]*\))?[a-z_, ]*\)\)/))
                 $0 = substr($0, 1, RSTART - 1) " " substr($0, RSTART + RLENGTH)
-            gsub(/extern|inline|__generic/, "")
+            gsub(/extern|__inline__|inline|__generic/, "")
             if (!match($0, /\(.*\)/)) next
             operands = substr($0, RSTART + 1, RLENGTH - 2)
             if (split(substr($0, 1, RSTART - 1), head, " ") != 2) next
@@ -162,6 +162,6 @@ refused() { # <message> <options>...
 refused "for OpenCL C 1.2 and newer" -cl-std=CL1.1
 refused "not for C++ for OpenCL" -cl-std=clc++
 refused "needs -mno-avx" -cl-std=CL1.2 -mavx
-refused "needs clang with -m32 -msse2" -cl-std=CL1.2 -mno-sse2
+refused "needs clang for x86 with SSE2" -cl-std=CL1.2 -mno-sse2
 refused "needs cl_khr_fp64" -cl-std=CL1.2 -Xclang -cl-ext=-cl_khr_fp64
 exit $failed

@@ -49,10 +49,14 @@ TEST(Pages, NameWhatStands) {
         for (const std::string& name : found(text, "`\\w+ (\\w+\\d(_native)?)\\("))
             names.insert("__ocl_zorv_v8_" + name);
         // The header's own names for vectors: "__ocl_zorv_v8_float4".
-        static const std::regex vector_type("__ocl_zorv_v8_(float|double|u?int|u?long)\\d*(_pair)?");
+        X
         std::erase_if(names, [](const std::string& name) { return std::regex_match(name, vector_type); });
         named_exports += names.size();
-        for (const std::string& name : names) EXPECT_TRUE(exports.contains(name)) << name;
+        for (const std::string& name : names) {
+            // Long vectors travel by exports of this ending on x86-64.
+            std::string plain = name.ends_with("_units") ? name.substr(0, name.rfind("_units")) : name;
+            EXPECT_TRUE(exports.contains(plain)) << name;
+        }
 
         names = found(text, "`([a-z]\\w*_native)`");
         names.merge(found(text, "`(cvt(?:fpto|\\w+tofp)\\w+)`"));
