@@ -8,6 +8,7 @@
 
 #include <cstdint>
 #include <cstdio>
+#include <type_traits>
 
 namespace tables {
 
@@ -93,8 +94,10 @@ inline Real to_fraction_bits(const Real& x, int bits) {
     mpfr_div_2si(result.get(), result.get(), bits, MPFR_RNDN);
     return result;
 }
-inline double number(uint64_t pattern) { return __builtin_bit_cast(double, pattern); }
-inline float number(uint32_t pattern) { return __builtin_bit_cast(float, pattern); }
+template <class Pattern>
+auto number(Pattern pattern) {
+    return __builtin_bit_cast(std::conditional_t<sizeof pattern == 8, double, float>, pattern);
+}
 
 inline void header(const char* what, const char* generator) {
     std::printf("// %s\n// Written by tools/tables/%s.cpp; do not edit.\n// clang-format off\n", what, generator);
