@@ -138,6 +138,7 @@ void exact_nextafter(Lane lane, const Real* x, Real* result) {
 void exact_remquo(Lane, const Real* x, Real* results) {
     long quotient = 0;
     mpfr_remquo(results[0].get(), &quotient, x[0].get(), x[1].get(), MPFR_RNDN);
+    quotient = static_cast<long>(quotient % 0x80000000LL);  // where long is longer
     bool has_quotient = mpfr_number_p(results[0].get()) && mpfr_number_p(x[1].get());
     mpfr_set_si(results[1].get(), has_quotient ? quotient : 0, MPFR_RNDN);
 }

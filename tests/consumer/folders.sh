@@ -15,10 +15,10 @@ install_with() { # <name> <prefix> <library folder>
     cmake -S "$tests/../.." -B "$scratch/$1" -DZORV_TARGET=$target -DZORV_TESTS=OFF \
         -DCMAKE_C_COMPILER="$cc" -DCMAKE_CXX_COMPILER="$cxx" -DCMAKE_BUILD_TYPE=None \
         -DCMAKE_INSTALL_PREFIX="$2" -DCMAKE_INSTALL_LIBDIR="$3" >/dev/null
-    cp "$build/__ocl_zorv_v8.so" "$scratch/$1/"
+    cp "$build"/*.so "$scratch/$1/"
     cp "$build"/include/* "$scratch/$1/include/"
-    for bitcode in "$build"/*.bc; do
-        if [ -e "$bitcode" ]; then cp "$bitcode" "$scratch/$1/"; fi
+    for bitcode in "$build"/ocl_zorv_v8-x86-64*; do
+        if [ -e "$bitcode" ]; then cp -r "$bitcode" "$scratch/$1/"; fi
     done
     DESTDIR="$scratch/$1.root" cmake --install "$scratch/$1" >"$scratch/$1.log"
 }

@@ -33,7 +33,7 @@ Division exact_division(double x, double y, mpfr_rnd_t rounding) {
         mpfr_fmod(rest, numerator, denominator, MPFR_RNDN);
     else
         mpfr_remquo(rest, &quotient, numerator, denominator, MPFR_RNDN);
-    return {mpfr_get_d(rest, MPFR_RNDN), static_cast<int32_t>(quotient)};
+    return {mpfr_get_d(rest, MPFR_RNDN), static_cast<int32_t>(quotient % 0x80000000LL)};
 }
 
 // Finite, not zero; of any exponent, or (one in three) within 40 binades of 1.
