@@ -5,16 +5,12 @@
 //
 // Two processes of this program hold the kernels, one of them under the layer, and are asked in turns: what else the
 // machine does meets both alike. Without families, all accurate ones that are no conversions.
-#include <sys/wait.h>
-#include <unistd.h>
-
 #include <algorithm>
 #include <chrono>
 #include <cstring>
-#include <iostream>
 #include <memory>
-#include <sstream>
 
+#include "bench/asking.h"
 #include "bench/operands.h"
 #include "tests/layer/opencl.h"
 #include "tools/builtin_names.h"
@@ -106,94 +102,27 @@ class Kernel {
     }
 };
 
-void answer_questions() {
+void answer() {
     cl_device_id device = opencl::all_devices()[0];
     cl_context context = opencl::create_context({device});
     opencl::Queue queue(context, device);
-    std::unique_ptr<Kernel> kernel;
-    std::string question;
-    double error = 0;
-    while (std::getline(std::cin, question)) {
-        std::istringstream words(question);
-        std::string name;
-        int width = 0;
-        if (words >> name >> width) {  // a new kernel; an empty line is the same one again
-            kernel = std::make_unique<Kernel>(context, *grid::find(name), width);
-            kernel->seconds_of_a_lane(queue);
-            error = kernel->error(queue);
-        }
-        std::cout << kernel->seconds_of_a_lane(queue) << ' ' << error << std::endl;
-    }
+    bench::answer_questions([&](const Family& family, int width) -> bench::Measure {
+        auto kernel = std::make_shared<Kernel>(context, family, width);
+        kernel->seconds_of_a_lane(queue);
+        double error = kernel->error(queue);
+        return [=, &queue] { return bench::Answer{.seconds = kernel->seconds_of_a_lane(queue), .error = error}; };
+    });
 }
 
 // ---- The process that asks. ----------------------------------------------------------------------------------------
-
-struct Answer {
-    double seconds, error;
-};
-
-class Process {
-  public:
-    Process(const char* program, const char* layer) {
-        int to[2], from[2];
-        if (pipe(to) != 0 || pipe(from) != 0) std::exit(1);
-        id_ = fork();
-        if (id_ == 0) {
-            dup2(to[0], 0);
-            dup2(from[1], 1);
-            for (int end : {to[0], to[1], from[0], from[1]}) close(end);
-            setenv("POCL_DEVICES", "basic", 0);  // one thread
-            if (layer != nullptr) setenv("OPENCL_LAYERS", layer, 1);
-            execl(program, program, static_cast<char*>(nullptr));
-            _exit(1);
-        }
-        close(to[0]);
-        close(from[1]);
-        to_ = fdopen(to[1], "w");
-        from_ = fdopen(from[0], "r");
-    }
-    Process(const Process&) = delete;
-    Process& operator=(const Process&) = delete;
-    ~Process() {
-        std::fclose(to_);
-        std::fclose(from_);
-        waitpid(id_, nullptr, 0);
-    }
-
-    Answer ask(const std::string& question) {
-        std::fprintf(to_, "%s\n", question.c_str());
-        std::fflush(to_);
-        Answer answer = {};
-        if (std::fscanf(from_, "%lf %lf", &answer.seconds, &answer.error) != 2) {
-            std::fprintf(stderr, "no answer to: %s\n", question.c_str());
-            std::exit(1);
-        }
-        return answer;
-    }
-
-  private:
-    pid_t id_;
-    std::FILE *to_, *from_;
-};
-
-double median(std::vector<double> values) {
-    std::nth_element(values.begin(), values.begin() + static_cast<std::ptrdiff_t>(values.size() / 2), values.end());
-    return values[values.size() / 2];
-}
 
 struct Comparison {
     double ratio, its_time, its_error, our_error;
 };
 
-Comparison compare(Process& its, Process& ours, const Family& family, int width, int rounds) {
-    std::string question = family.name + " " + std::to_string(width);
-    Answer its_first = its.ask(question), our_first = ours.ask(question);
-    std::vector<double> its_times, our_times;
-    for (int i = 0; i < rounds; ++i) {
-        its_times.push_back(its.ask("").seconds);
-        our_times.push_back(ours.ask("").seconds);
-    }
-    return {median(its_times) / median(our_times), median(its_times), its_first.error, our_first.error};
+Comparison compare(bench::Process& its, bench::Process& ours, const Family& family, int width, int rounds) {
+    std::vector<bench::Answer> answers = bench::ask_in_turns({&its, &ours}, family.name, width, rounds);
+    return {answers[0].seconds / answers[1].seconds, answers[0].seconds, answers[0].error, answers[1].error};
 }
 
 std::string error_text(double error) {
@@ -210,7 +139,7 @@ bool is_compared(const Family& family) {
 }  // namespace
 
 int main(int count, char** arguments) {
-    if (count == 1) return answer_questions(), 0;
+    if (count == 1) return answer(), 0;
     int rounds = 31;
     std::vector<std::string> chosen;
     for (int i = 2; i < count; ++i) {
@@ -220,7 +149,9 @@ int main(int count, char** arguments) {
         else
             chosen.push_back(word);
     }
-    Process its(arguments[0], nullptr), ours(arguments[0], arguments[1]);
+    const std::pair<std::string, std::string> one_thread = {"POCL_DEVICES", "basic"};
+    bench::Process its({arguments[0]}, {one_thread});
+    bench::Process ours({arguments[0]}, {one_thread, {"OPENCL_LAYERS", arguments[1]}});
     std::printf("| built-in | its time / ours | wide: its time / ours | its error | ours |\n|---|---|---|---|---|\n");
     std::string slower, slower_wide;
     for (const Family& family : grid::families()) {

@@ -14,7 +14,7 @@ endif()
 target_compile_options(ocl_zorv_v8 INTERFACE ${interface_options})
 set(kernel_options
   -fPIC -fvisibility=hidden -fno-exceptions -fno-rtti -fno-stack-protector -Wconversion -Wno-sign-conversion)
-target_compile_options(ocl_zorv_v8 PRIVATE ${kernel_options})
+target_compile_options(ocl_zorv_v8 PRIVATE ${kernel_options} -falign-functions=64)
 target_link_options(ocl_zorv_v8 PRIVATE
   -nostdlib -Wl,-z,defs -Wl,-z,text -Wl,-z,noexecstack -Wl,-z,relro -Wl,-z,now
   -Wl,--version-script=${version_script})

@@ -222,8 +222,10 @@ class Frame<Kernel, width, traits, Returned (*)(Operands...)> {
     template <class... ResultAreas>
     ALWAYS_INLINE static void scan(unsigned rare_lanes, const StagingArea<Lane<Operands>, width>&... operands,
                                    ResultAreas&... results) {
-        for (unsigned lane = 0; lane < 32; ++lane)
-            if (rare_lanes >> lane & 1) Kernel::rare(&operands.slots[lane]..., &results.slots[lane]...);
+        for (; rare_lanes != 0; rare_lanes &= rare_lanes - 1) {
+            int lane = __builtin_ctz(rare_lanes);
+            Kernel::rare(&operands.slots[lane]..., &results.slots[lane]...);
+        }
     }
 };
 

@@ -169,10 +169,11 @@ def main():
     navigation = [
         {"Overview": "README.md"},
         {"Families": [{"All": "docs/families.md"}, *operations]},
-        {"Use": [{"Calling convention": "docs/calling-convention.md"}, {"Differences": "docs/differences.md"},
-                 {"Compilers": "docs/compilers.md"}, {"Changes and versions": "CHANGELOG.md"},
-                 {"Security": "SECURITY.md"}]},
-        {"Measured": [{"Accuracy": "docs/accuracy.md"}, {"Performance": "docs/performance.md"}]},
+        {"Use": [{"Calling convention": "docs/calling-convention.md"}, {"Under a run-time": "docs/runtime.md"},
+                 {"Differences": "docs/differences.md"}, {"Compilers": "docs/compilers.md"},
+                 {"Changes and versions": "CHANGELOG.md"}, {"Security": "SECURITY.md"}]},
+        {"Measured": [{"Accuracy": "docs/accuracy.md"}, {"Performance": "docs/performance.md"},
+                      {"Both targets": "docs/targets.md"}]},
         {"Inside": [{"Architecture": "docs/architecture.md"}, {"Contributing": "CONTRIBUTING.md"}]},
     ]
     shutil.copy(repository / "docs/site/tables.css", out)
