@@ -7,7 +7,8 @@
 set -eu
 cc=$1 headers=$2 scratch=$3
 mkdir -p "$scratch"
-builtins="-I $headers -include ocl_zorv_v8_builtins.h"
+cd "$headers" # no path in the options that are split at blanks
+builtins="-I . -include ocl_zorv_v8_builtins.h"
 failed=0
 
 fail() {
