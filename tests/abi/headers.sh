@@ -139,9 +139,10 @@ uint8 byte(__ocl_zorv_v8_float4 x, float4 own) {
 END
 echo "#include <ocl_zorv_v8.h>" >"$scratch/names.c"
 for language in "c -std=c11" "c -std=c17" "c++ -std=c++17" "c++ -std=c++20"; do
-    for source in "$macros $scratch/names.c" "$scratch/own_names.c"; do
+    for source in names own_names; do
+        case $source in names) defined=$macros ;; *) defined= ;; esac
         "$cc" -x $language -m32 -msse2 -Wall -Wextra -pedantic -Wdocumentation -Werror -I "$headers" -fsyntax-only \
-            $source || fail "$language: $source"
+            $defined "$scratch/$source.c" || fail "$language: $source"
     done
 done
 
