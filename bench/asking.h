@@ -9,7 +9,6 @@
 #include <sys/wait.h>
 #include <unistd.h>
 
-#include <algorithm>
 #include <cstdio>
 #include <cstdlib>
 #include <functional>
@@ -19,6 +18,7 @@
 #include <string>
 #include <vector>
 
+#include "bench/median.h"
 #include "tools/calls.h"
 
 namespace bench {
@@ -89,12 +89,6 @@ class Process {
     pid_t id_;
     std::FILE *to_, *from_;
 };
-
-inline double median(std::vector<double> values) {
-    auto middle = values.begin() + static_cast<std::ptrdiff_t>(values.size() / 2);
-    std::nth_element(values.begin(), middle, values.end());
-    return *middle;
-}
 
 // Asks all of them for a family and a width, then `rounds` times in turns: the median times, and the errors.
 inline std::vector<Answer> ask_in_turns(const std::vector<Process*>& processes, const std::string& family, int width,

@@ -8,6 +8,8 @@
 #include <cstdio>
 #include <memory>
 
+#include "bench/median.h"
+
 namespace bench {
 namespace {
 
@@ -40,12 +42,6 @@ const std::vector<Peer>& peers() {
     for (int i = 0; i < repeats; ++i) pass(arrays);
     std::chrono::duration<double> elapsed = std::chrono::steady_clock::now() - start;
     return elapsed.count() / repeats;
-}
-
-double median(std::vector<double> values) {
-    auto middle = values.begin() + static_cast<std::ptrdiff_t>(values.size() / 2);
-    std::nth_element(values.begin(), middle, values.end());
-    return *middle;
 }
 
 size_t index_of(const std::string& name) {

@@ -5,6 +5,7 @@
 //
 // The four programs are asked in turns. The second one is asked twice: started by the loader's name it lies near the
 // library, as the kernels of a run-time do; started as usual it lies more than 4 GB away, which makes a call longer.
+#include <algorithm>
 #include <cstring>
 #include <map>
 #include <memory>

@@ -1,8 +1,8 @@
 // a * b + c, rounded once.
 //
-// SSE2 has no fused instruction, so every lane goes through exact integer arithmetic. Single and double
-// precision are the same steps in other word sizes. Correctly rounded in all four modes. The mode is the x87 unit's on
-// i386, and on x86-64, where nothing but MXCSR rules arithmetic, the one that stands there.
+// SSE2 has no fused instruction, so every lane goes through exact integer arithmetic. Single and double precision are
+// the same steps in other word sizes. Correctly rounded in all four modes. The mode is the x87 unit's on i386, and on
+// x86-64, where nothing but MXCSR rules arithmetic, the one that stands there.
 #ifdef __FMA__
 #include <immintrin.h>
 #endif
