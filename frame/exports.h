@@ -18,8 +18,8 @@
 #define ROW_here(base, precision, class_, signature, traits)                                           \
     namespace grid {                                                                                   \
     template <int width>                                                                               \
-    using FRAME_NAME(base, precision,                                                                  \
-                     class_) = zorv::Frame<zorv::FAMILY_NAME(base, precision, class_), width, traits>; \
+    using FRAME_NAME(base, precision, class_) =                                                        \
+        zorv::Frame<zorv::Exported<zorv::FAMILY_NAME(base, precision, class_)>::type, width, traits>;  \
     }                                                                                                  \
     FOR_EACH_WIDTH(EXPORT, base, precision, class_, signature)
 #define EXPORT(base, precision, class_, signature, width)                        \

@@ -18,6 +18,9 @@
 //   LongPath    a kernel of its own that takes over, for all lanes together, where
 //   beyond      static <mask> beyond(<units> operands...) is true in any lane
 //   batch       main over four units at once, at widths 1, 8 and 16
+//   Inlined     a kernel of its own with the same results, for exports that are inlined into a loop: without the call
+//               of `rare` in it a loop can be unrolled
+//   bits_alone  true where main moves bits and compares, and computes no floating value
 //
 // What lane 3 holds at width 3 is told by the traits of the family's row in the grid.
 #pragma once
@@ -36,6 +39,19 @@
 #include "frame/travelling.h"
 
 namespace zorv {
+
+// The kernel that stands in an export.
+template <class Kernel>
+struct Exported {
+    using type = Kernel;
+};
+#ifdef ZORV_BITCODE
+template <class Kernel>
+    requires requires { typename Kernel::Inlined; }
+struct Exported<Kernel> {
+    using type = typename Kernel::Inlined;
+};
+#endif
 
 template <class Kernel, int width, grid::Traits traits = grid::plain, class Main = decltype(&Kernel::main)>
 class Frame;
@@ -128,7 +144,10 @@ class Frame<Kernel, width, traits, Returned (*)(Operands...)> {
 
     template <class Units, size_t... step>
     ALWAYS_INLINE static AllSteps<Units> split(VectorFor<Units> vector, std::index_sequence<step...>) {
-        return {unseen(take<Units, width, static_cast<int>(step) * lanes>(vector))...};
+        if constexpr (requires { Kernel::bits_alone; })
+            return {take<Units, width, static_cast<int>(step) * lanes>(vector)...};
+        else
+            return {unseen(take<Units, width, static_cast<int>(step) * lanes>(vector))...};
     }
 
     template <class Delivery, size_t... index>

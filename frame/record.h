@@ -75,9 +75,12 @@ struct Scalar {
 // The record, of which the compiler believes that it may have changed this very moment. A main path takes its record
 // through this, once: the units of one call then share no constants in registers, of which there are eight and which
 // would spill; each constant is a memory operand where it is used, straight off the one base register of the call.
+// Inlined into a kernel's loop, constants may stand in registers before it.
 template <class Record>
 [[gnu::always_inline]] inline const Record& in_memory(const Record& record) {
+#ifndef ZORV_BITCODE
     asm volatile("" : "+m"(const_cast<Record&>(record)));
+#endif
     return record;
 }
 

@@ -42,7 +42,9 @@ constexpr Lane fill_value(grid::Traits traits) {
 // caller's narrower store to retire.
 template <class Lane>
 ALWAYS_INLINE Lane in_register(Lane lane) {
+#ifndef ZORV_BITCODE
     if constexpr (std::is_floating_point_v<Lane>) asm("" : "+x"(lane));
+#endif
     return lane;
 }
 
@@ -98,11 +100,11 @@ template <class Units>
 ALWAYS_INLINE Units unseen(Units units) {
 #ifdef ZORV_BITCODE
     if constexpr (requires { units.low; })
-        asm("" : "+x"(units.low), "+x"(units.high));
+        return {fenced(units.low), fenced(units.high)};
     else if constexpr (std::is_same_v<Units, N2>)
-        asm("" : "+x"(units.halves));
+        return {fenced(units.halves)};
     else
-        asm("" : "+x"(units));
+        return fenced(units);
 #endif
     return units;
 }

@@ -117,6 +117,11 @@ inline D2 add_in_order(D2 x, D2 y) {
     return x;
 }
 
+// The second operand in place of assembly: y, or where x is NaN, x. Whichever stands first in the instruction then, what
+// goes through is x.
+inline F4 nan_first(F4 x, F4 y) { return select(x == x, y, x); }
+inline D2 nan_first(D2 x, D2 y) { return select(x == x, y, x); }
+
 // The same for scalars, at run time.
 inline float multiply_in_order(float x, float y) {
     asm volatile(IN_ORDER("mulss") : "+x"(x) : "x"(y));
@@ -206,6 +211,14 @@ template <class Scalar>
 inline Scalar opaque(Scalar value) {
     asm volatile("" : "+x"(value));
     return value;
+}
+
+// A unit with a fence behind it, past which nothing is computed while compiling, or computed otherwise. It is no
+// instruction, and does not keep a loop from being unrolled as assembly does.
+template <class Unit>
+inline Unit fenced(Unit unit) {
+#pragma clang fp reassociate(on)  // where nothing may be computed otherwise, there is no fence either
+    return unit_cast<Unit>(__arithmetic_fence(unit_cast<F4>(unit)));
 }
 
 // ---- Polynomials: Horner, highest coefficient first, a rounded multiplication, then a rounded addition. -----

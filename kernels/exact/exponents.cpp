@@ -266,7 +266,20 @@ struct nextafterf {
         return {as_float(step),
                 no_exponent(bits(x), data) | no_exponent(bits(y), data) | no_exponent(step, data) | same_sign};
     }
-    static constexpr auto rare = nextafter_rare<float>;
+    [[maybe_unused]] static constexpr auto rare = nextafter_rare<float>;
+
+    // The steps of `nextafter` below: lanes that step outward step here.
+    struct Inlined {
+        static Lanes<F4> main(F4 x, F4 y) {
+            const auto& data = nextafterf_data;
+            I4 shorter = (bits(x) & data.magnitude) - (bits(y) & data.magnitude);  // negative where |x| < |y|
+            I4 up = (shorter & ~(bits(x) ^ bits(y))) >> 31;
+            I4 step = (bits(x) - data.one) - (up + up);
+            return {as_float(step), no_exponent(bits(x), data) | no_exponent(bits(y), data) | no_exponent(step, data) |
+                                        (bits(x) == bits(y))};
+        }
+        [[maybe_unused]] static constexpr auto rare = nextafter_rare<float>;
+    };
 };
 
 struct nextafter {

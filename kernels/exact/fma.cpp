@@ -2,19 +2,36 @@
 //
 // SSE2 has no fused instruction, so every lane goes through exact integer arithmetic. Single and double precision are
 // the same steps in other word sizes. Correctly rounded in all four modes. The mode is the x87 unit's on i386, and on
-// x86-64, where nothing but MXCSR rules arithmetic, the one that stands there.
+// x86-64, where nothing but MXCSR rules arithmetic, the one that stands there. Bitcode for processors that have the
+// instruction computes by it, with the same results.
+#include "frame/lane_frame.h"
+
 #ifdef __FMA__
 #include <immintrin.h>
-#endif
-
+#else
 #include <type_traits>
 
-#include "frame/lane_frame.h"
 #include "frame/scalar.h"
+#endif
 
 namespace zorv {
 namespace {
 
+#ifdef __FMA__
+F4 fused(F4 a, F4 b, F4 c) { return _mm_fmadd_ps(a, b, c); }
+D2 fused(D2 a, D2 b, D2 c) { return _mm_fmadd_pd(a, b, c); }
+
+// Where c is zero, the product is rounded before c is added: that makes +0 of -0, where the product was too small for the
+// format.
+template <class Unit>
+struct Fma {
+    static Unit main(Unit a, Unit b, Unit c) {
+        Unit result = fused(a, nan_first(a, b), c);
+        Unit with_zero = fenced(result + c);  // else the compiler adds -0 in the other lanes, which rounding down shows
+        return select(c == Unit{}, with_zero, result);
+    }
+};
+#else
 enum RoundingMode : uint16_t { nearest = 0x000, downward = 0x400, upward = 0x800, mode_field = 0xc00 };
 
 RoundingMode rounding_mode() {
@@ -231,28 +248,6 @@ Status fma_rare(const Float* operand_a, const Float* operand_b, const Float* ope
     return RARE_OK;
 }
 
-#ifdef __FMA__
-// In bitcode for processors that have a fused instruction. Where its result is normal, with a factor of 2 to spare, and
-// finite, there is one way to round it; NaN, infinities, zeros and small numbers are the routine's.
-F4 fused(F4 a, F4 b, F4 c) { return _mm_fmadd_ps(a, b, c); }
-D2 fused(D2 a, D2 b, D2 c) { return _mm_fmadd_pd(a, b, c); }
-
-template <class Unit>
-struct Fma {
-    using Float = typename Layout<Unit>::Lane;
-    using F = Fields<Float>;
-    using Signed = std::make_signed_t<typename F::Pattern>;
-
-    static Lanes<Unit> main(Unit a, Unit b, Unit c) {
-        constexpr auto safe = static_cast<Signed>((F::mantissa + 1) << 1);  // exponent field 2
-        constexpr auto infinity = static_cast<Signed>(F::infinity);
-        Unit result = fused(a, b, c);
-        auto magnitude = reinterpret_cast<MaskOf<Unit>>(result) & static_cast<Signed>(F::magnitude);
-        return {result, (magnitude < safe) | (magnitude >= infinity)};
-    }
-    static constexpr auto rare = fma_rare<Float>;
-};
-#else
 // What stands here in two roundings is staged, and every lane of it is overwritten.
 template <class Unit>
 struct Fma {

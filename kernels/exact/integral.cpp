@@ -2,6 +2,8 @@
 // exact/integral.h. The bare families are complete for every operand; modf and fract repair infinities and NaN.
 #include "kernels/exact/integral.h"
 
+#include <limits>
+
 #include "frame/lane_frame.h"
 #include "frame/scalar.h"
 #include "kernels/exact/exact_data.h"
@@ -81,6 +83,16 @@ struct Modf {
         return {x - t, t, is_special(x, data)};
     }
     static constexpr auto rare = modf_rare<typename Layout<Unit>::Lane>;
+
+    // An infinity is the one operand whose difference is no fraction: a zero of its sign stands for it.
+    struct Inlined {
+        static Both<Unit, Unit> main(Unit x) {
+            const auto& data = in_memory(record);
+            Unit t = toward_zero(x, data);
+            constexpr auto infinity = std::numeric_limits<typename Layout<Unit>::Lane>::infinity();
+            return {select(clear_bits(x, data.sign) == infinity, and_bits(x, data.sign), x - t), t};
+        }
+    };
 };
 using modff = Modf<F4, modff_data>;
 using modf = Modf<D2, modf_data>;

@@ -26,6 +26,7 @@ struct Sign<D2> {
 
 template <class Unit>
 struct Fabs {
+    static constexpr bool bits_alone = true;
     static Unit main(Unit x) { return clear_bits(x, Sign<Unit>::bit); }
 };
 using fabsf = Fabs<F4>;
@@ -33,6 +34,7 @@ using fabs = Fabs<D2>;
 
 template <class Unit>
 struct CopySign {
+    static constexpr bool bits_alone = true;
     static Unit main(Unit x, Unit y) { return or_bits(clear_bits(x, Sign<Unit>::bit), bits(y) & Sign<Unit>::bit); }
 };
 using copysignf = CopySign<F4>;
@@ -40,9 +42,11 @@ using copysign = CopySign<D2>;
 
 // A quiet NaN with the code in its payload; bits of the code above the payload stay.
 struct nanf {
+    static constexpr bool bits_alone = true;
     static F4 main(U4 code) { return as_float(code | 0x7fc00000u); }
 };
 struct nan {
+    static constexpr bool bits_alone = true;
     static D2 main(UL2 code) { return as_double(code | 0x7ff8000000000000u); }
 };
 
@@ -57,6 +61,13 @@ Status other_than_nan(const Float* x, const Float* y, Float* result) {
     return RARE_OK;
 }
 
+// Where x is the operand to take: it is a number, and y stands on the other side of it or is none. `not_taken` is the
+// compare that says no; with a NaN it is false.
+template <class Unit>
+MaskOf<Unit> takes_first(Unit x, MaskOf<Unit> not_taken) {
+    return ~not_taken & (x == x);
+}
+
 // The hardware's operation gives its second operand where the two are equal: of +0 and -0 the second.
 template <class Unit, const auto& record>
 struct Fmin {
@@ -65,6 +76,11 @@ struct Fmin {
         return {hardware_min(x, y), is_special(x, data) | is_special(y, data)};
     }
     static constexpr auto rare = other_than_nan<typename Layout<Unit>::Lane>;
+
+    struct Inlined {
+        static constexpr bool bits_alone = true;
+        static Unit main(Unit x, Unit y) { return select(takes_first(x, x >= y), x, y); }
+    };
 };
 using fminf = Fmin<F4, fminf_data>;
 using fmin = Fmin<D2, fmin_data>;
@@ -76,6 +92,11 @@ struct Fmax {
         return {hardware_max(x, y), is_special(x, data) | is_special(y, data)};
     }
     static constexpr auto rare = other_than_nan<typename Layout<Unit>::Lane>;
+
+    struct Inlined {
+        static constexpr bool bits_alone = true;
+        static Unit main(Unit x, Unit y) { return select(takes_first(x, x <= y), x, y); }
+    };
 };
 using fmaxf = Fmax<F4, fmaxf_data>;
 using fmax = Fmax<D2, fmax_data>;
@@ -91,6 +112,15 @@ struct Maxmag {
         return {select(ax == ay, hardware_max(y, x), larger), is_special(x, data) | is_special(y, data)};
     }
     static constexpr auto rare = other_than_nan<typename Layout<Unit>::Lane>;
+
+    struct Inlined {
+        static constexpr bool bits_alone = true;
+        static Unit main(Unit x, Unit y) {
+            Unit ax = clear_bits(x, Sign<Unit>::bit);
+            Unit ay = clear_bits(y, Sign<Unit>::bit);
+            return select(ax == ay, hardware_max(y, x), select(takes_first(x, ax <= ay), x, y));
+        }
+    };
 };
 using maxmagf = Maxmag<F4, maxmagf_data>;
 using maxmag = Maxmag<D2, maxmag_data>;
@@ -106,6 +136,15 @@ struct Minmag {
         return {select(ax == ay, hardware_min(y, x), smaller), is_special(x, data) | is_special(y, data)};
     }
     static constexpr auto rare = other_than_nan<typename Layout<Unit>::Lane>;
+
+    struct Inlined {
+        static constexpr bool bits_alone = true;
+        static Unit main(Unit x, Unit y) {
+            Unit ax = clear_bits(x, Sign<Unit>::bit);
+            Unit ay = clear_bits(y, Sign<Unit>::bit);
+            return select(ax == ay, hardware_min(y, x), select(takes_first(x, ax >= ay), x, y));
+        }
+    };
 };
 using minmagf = Minmag<F4, minmagf_data>;
 using minmag = Minmag<D2, minmag_data>;
@@ -127,6 +166,13 @@ struct Fdim {
         return {and_bits(x - y, y < x), is_special(x, data) | is_special(y, data)};
     }
     static constexpr auto rare = fdim_rare<typename Layout<Unit>::Lane>;
+
+    struct Inlined {
+        static Unit main(Unit x, Unit y) {
+            Unit above = select(x == x, and_bits(x - y, y < x), x);
+            return select(y == y, above, y);
+        }
+    };
 };
 using fdimf = Fdim<F4, fdimf_data>;
 using fdim = Fdim<D2, fdim_data>;

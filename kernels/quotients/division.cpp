@@ -74,6 +74,10 @@ struct invf_native {
 
 struct divf_native {
     static F4 main(F4 x, F4 y) { return multiply_in_order(x, reciprocal_estimate(y)); }
+
+    struct Inlined {
+        static F4 main(F4 x, F4 y) { return x * nan_first(x, reciprocal_estimate(y)); }
+    };
 };
 
 // ---- Native, double: a batch of four units for one divide. -------------------------------------------------
