@@ -15,12 +15,12 @@
 #define FAMILY(base, precision, class_, signature, home, traits, bound) \
     PASTE(ROW_, IS_HERE(home))(base, precision, class_, signature, traits)
 #define ROW_elsewhere(base, precision, class_, signature, traits)
-#define ROW_here(base, precision, class_, signature, traits)                                           \
-    namespace grid {                                                                                   \
-    template <int width>                                                                               \
-    using FRAME_NAME(base, precision, class_) =                                                        \
-        zorv::Frame<zorv::Exported<zorv::FAMILY_NAME(base, precision, class_)>::type, width, traits>;  \
-    }                                                                                                  \
+#define ROW_here(base, precision, class_, signature, traits)                                          \
+    namespace grid {                                                                                  \
+    template <int width>                                                                              \
+    using FRAME_NAME(base, precision, class_) =                                                       \
+        zorv::Frame<zorv::Exported<zorv::FAMILY_NAME(base, precision, class_)>::type, width, traits>; \
+    }                                                                                                 \
     FOR_EACH_WIDTH(EXPORT, base, precision, class_, signature)
 #define EXPORT(base, precision, class_, signature, width)                        \
     EXPORT_##signature(EXPORT_SYMBOL(base, precision, class_, signature, width), \

@@ -47,7 +47,7 @@ struct Exported {
 };
 #ifdef ZORV_BITCODE
 template <class Kernel>
-    requires requires { typename Kernel::Inlined; }
+requires requires { typename Kernel::Inlined; }
 struct Exported<Kernel> {
     using type = typename Kernel::Inlined;
 };

@@ -117,8 +117,8 @@ inline D2 add_in_order(D2 x, D2 y) {
     return x;
 }
 
-// The second operand in place of assembly: y, or where x is NaN, x. Whichever stands first in the instruction then, what
-// goes through is x.
+// The second operand in place of assembly: y, or where x is NaN, x. Whichever stands first in the instruction then,
+// what goes through is x.
 inline F4 nan_first(F4 x, F4 y) { return select(x == x, y, x); }
 inline D2 nan_first(D2 x, D2 y) { return select(x == x, y, x); }
 

@@ -21,8 +21,8 @@ namespace {
 F4 fused(F4 a, F4 b, F4 c) { return _mm_fmadd_ps(a, b, c); }
 D2 fused(D2 a, D2 b, D2 c) { return _mm_fmadd_pd(a, b, c); }
 
-// Where c is zero, the product is rounded before c is added: that makes +0 of -0, where the product was too small for the
-// format.
+// Where c is zero, the product is rounded before c is added: that makes +0 of -0, where the product was too small for
+// the format.
 template <class Unit>
 struct Fma {
     static Unit main(Unit a, Unit b, Unit c) {

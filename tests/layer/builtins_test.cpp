@@ -27,12 +27,49 @@ std::string element(const std::string& buffer, grid::Lane lane, int width, const
            std::to_string(lanes_before(width) * work_items) + "))[i]";
 }
 
+// ---- Operands that the run-time's compiler knows. -----------------------------------------------------------------
+
+constexpr int constants_width = 4;
+using Tuples = std::vector<harness::Patterns>;
+
+// Those of which the library makes a NaN come first: what a compiler computes has another sign than the processor's.
+Tuples telling_tuples(const Family& family) {
+    Tuples tuples = harness::operand_tuples(family, 512);
+    auto becomes_nan = [&](const harness::Patterns& tuple) {
+        std::vector<harness::Patterns> operands;
+        for (uint64_t pattern : tuple) operands.push_back({pattern});
+        return harness::is_nan(family.results[0], harness::call(family, 1, operands)[0][0]) &&
+               !harness::is_nan(family.operands[0], tuple[0]);
+    };
+    std::stable_partition(tuples.begin(), tuples.end(), becomes_nan);
+    tuples.resize(constants_width);
+    return tuples;
+}
+
+std::string call_of_constants(const Family& family, const Tuples& tuples) {
+    std::string call = "*k0 = " + grid::builtin_of(family, constants_width) + "(";
+    for (size_t i = 0; i < family.operands.size(); ++i) {
+        bool is_wide = grid::size_of(family.operands[i]) == 8;
+        call += (i ? ", as_" : "as_") + grid::vector_name(family.operands[i], constants_width) +
+                (is_wide ? "((ulong4)(" : "((uint4)(");
+        for (size_t lane = 0; lane < constants_width; ++lane)
+            call += (lane ? ", " : "") + std::to_string(tuples[lane][i]) + (is_wide ? "ul" : "u");
+        call += "))";
+    }
+    return call + (family.results.size() > 1 ? ", k1)" : ")");
+}
+
+// ---- A kernel with all calls of a family. -------------------------------------------------------------------------
+
 std::string kernel_of(const Family& family) {
     std::string parameters, body;
     for (size_t i = 0; i < family.operands.size(); ++i)
         parameters += "global const " + grid::name_of(family.operands[i]) + "* x" + std::to_string(i) + ", ";
     for (size_t i = 0; i < family.results.size(); ++i)
         parameters += (i ? ", global " : "global ") + grid::name_of(family.results[i]) + "* r" + std::to_string(i);
+    for (size_t i = 0; i < family.results.size(); ++i)
+        parameters += ", global " + grid::vector_name(family.results[i], constants_width) + "* k" + std::to_string(i);
+    body += "    if (i == 0) " + call_of_constants(family, telling_tuples(family)) + ";\n";
     for (int width : grid::widths) {
         std::string call = grid::builtin_of(family, width) + "(";
         for (size_t i = 0; i < family.operands.size(); ++i)
@@ -92,6 +129,18 @@ void compare(const Family& family, std::vector<Lanes>& operands, std::vector<Lan
     EXPECT_EQ(wrong, 0u) << family.name;
 }
 
+void compare_constants(const Family& family, std::vector<Lanes>& results) {
+    Tuples tuples = telling_tuples(family);
+    std::vector<harness::Patterns> operands(family.operands.size());
+    for (size_t i = 0; i < operands.size(); ++i)
+        for (const harness::Patterns& tuple : tuples) operands[i].push_back(tuple[i]);
+    auto expected = harness::call(family, constants_width, operands);
+    for (size_t i = 0; i < results.size(); ++i)
+        for (size_t lane = 0; lane < constants_width; ++lane)
+            EXPECT_EQ(results[i].get(lane), expected[i][lane])
+                << family.name << " of constants " << testing::PrintToString(tuples[lane]) << ", result " << i;
+}
+
 class BuiltIns : public testing::TestWithParam<std::string> {};
 
 TEST_P(BuiltIns, AreTheLibrarys) {
@@ -112,13 +161,14 @@ TEST_P(BuiltIns, AreTheLibrarys) {
     for (const Family& family : families) {
         std::vector<Lanes> operands(family.operands.begin(), family.operands.end());
         std::vector<Lanes> results(family.results.begin(), family.results.end());
+        std::vector<Lanes> of_constants = results;
         auto tuples = harness::operand_tuples(family, all_lanes / 2);
         for (size_t i = 0; i < all_lanes; ++i)
             for (size_t j = 0; j < operands.size(); ++j) operands[j].set(i, tuples[i % tuples.size()][j]);
 
         cl_kernel kernel = opencl::create_kernel(program, "call_" + family.name);
         std::vector<std::unique_ptr<opencl::Buffer>> buffers;
-        for (auto* all : {&operands, &results})
+        for (auto* all : {&operands, &results, &of_constants})
             for (Lanes& lanes : *all) {
                 buffers.push_back(std::make_unique<opencl::Buffer>(context, lanes.at(0), lanes.bytes()));
                 buffers.back()->pass_to(kernel, static_cast<cl_uint>(buffers.size() - 1));
@@ -127,6 +177,7 @@ TEST_P(BuiltIns, AreTheLibrarys) {
         for (const auto& buffer : buffers) buffer->read(queue.get());
         clReleaseKernel(kernel);
         compare(family, operands, results);
+        compare_constants(family, of_constants);
     }
     clReleaseProgram(program);
     clReleaseContext(context);
