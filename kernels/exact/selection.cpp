@@ -169,8 +169,8 @@ struct Fdim {
 
     struct Inlined {
         static Unit main(Unit x, Unit y) {
-            Unit above = select(x == x, and_bits(x - y, y < x), x);
-            return select(y == y, above, y);
+            Unit above = hardware_max(x - y, Unit{});  // the second operand where the difference is NaN or -0
+            return select(y == y, select(x == x, above, x), y);
         }
     };
 };
