@@ -208,6 +208,7 @@ clInitLayer(cl_uint num_entries, const cl_icd_dispatch* target_dispatch, cl_uint
     if (target_dispatch == nullptr || num_entries_ret == nullptr || layer_dispatch_ret == nullptr)
         return CL_INVALID_VALUE;
     // An older loader has fewer functions; the compiler and the linker apart came with OpenCL 1.2.
+    layer::target = {};
     std::memcpy(&layer::target, target_dispatch, std::min(num_entries * sizeof(void*), sizeof layer::target));
     if (layer::target.clCompileProgram == nullptr || layer::target.clLinkProgram == nullptr) return CL_INVALID_VALUE;
     dispatch = layer::make_dispatch();
