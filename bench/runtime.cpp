@@ -166,8 +166,9 @@ int main(int count, char** arguments) {
     const std::pair<std::string, std::string> one_thread = {"POCL_DEVICES", "basic"};
     bench::Process its({arguments[0]}, {one_thread});
     bench::Process ours({arguments[0]}, {one_thread, {"OPENCL_LAYERS", arguments[1]}});
-    std::printf("| built-in | its time / ours | wide: its time / ours | its error | ours |\n|---|---|---|---|---|\n");
-    std::string slower, slower_wide;
+    std::printf("| built-in | its time / ours | wide: its time / ours | scalar: its time / ours | its error | ours |\n"
+                "|---|--:|--:|--:|--:|--:|\n");
+    std::string slower, slower_wide, slower_scalar;
     for (const Family& family : grid::families()) {
         bool wanted =
             chosen.empty() ? is_compared(family) : std::find(chosen.begin(), chosen.end(), family.name) != chosen.end();
@@ -175,16 +176,20 @@ int main(int count, char** arguments) {
         int narrow = family.is_single ? 4 : 2, wide = family.is_single ? 16 : 8;
         Comparison one = compare(its, ours, family, narrow, rounds);
         Comparison many = compare(its, ours, family, wide, rounds);
+        Comparison scalar = compare(its, ours, family, 1, rounds);
         bool as_good = one.its_error <= std::max(family.bound, one.our_error);
         std::string name = grid::builtin_of(family, narrow) + " of " + grid::vector_name(family.operands[0], narrow);
-        std::printf("| %s | %.2f | %.2f | %s | %s |\n", name.c_str(), one.ratio, many.ratio,
+        std::printf("| %s | %.2f | %.2f | %.2f | %s | %s |\n", name.c_str(), one.ratio, many.ratio, scalar.ratio,
                     error_text(one.its_error).c_str(), error_text(one.our_error).c_str());
         std::fflush(stdout);
         if (as_good && one.ratio < 1) slower += (slower.empty() ? "" : ", ") + name;
         if (as_good && many.ratio < 1) slower_wide += (slower_wide.empty() ? "" : ", ") + name;
+        if (as_good && scalar.ratio < 1) slower_scalar += (slower_scalar.empty() ? "" : ", ") + name;
     }
-    std::printf("\nSlower than the run-time's own where its error is within our limit: %s.\n",
-                slower.empty() ? "none" : slower.c_str());
-    std::printf("Likewise of 16 floats or 8 doubles, where the run-time uses 256-bit units and we do not: %s.\n",
-                slower_wide.empty() ? "none" : slower_wide.c_str());
+    auto list = [](const char* what, const std::string& names) {
+        std::printf("\n%s: %s.\n", what, names.empty() ? "none" : names.c_str());
+    };
+    list("Slower than the run-time's own where its error is within our bound", slower);
+    list("Likewise of 16 floats or 8 doubles, where the run-time uses 256-bit units and we do not", slower_wide);
+    list("Likewise of scalars, where the run-time vectorises the loop and we do not", slower_scalar);
 }
