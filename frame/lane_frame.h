@@ -21,6 +21,7 @@
 //   Inlined     a kernel of its own with the same results, for exports that are inlined into a loop: without the call
 //               of `rare` in it a loop can be unrolled
 //   bits_alone  true where main moves bits and compares, and computes no floating value
+//   scalar      main of one lane, for width 1 of such a kernel: a loop around it can be vectorised
 //
 // What lane 3 holds at width 3 is told by the traits of the family's row in the grid.
 #pragma once
@@ -86,6 +87,9 @@ class Frame<Kernel, width, traits, Returned (*)(Operands...)> {
 
     // One result.
     ALWAYS_INLINE static Travels call(VectorFor<Operands>... operands) {
+#ifdef ZORV_BITCODE
+        if constexpr (width == 1 && requires { &Kernel::scalar; }) return Kernel::scalar(operands...);
+#endif
         return start(ByValue<Value, Travels>{}, std::index_sequence_for<Operands...>(), operands...);
     }
     // Two results, the second through a pointer.

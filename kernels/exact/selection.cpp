@@ -5,6 +5,7 @@
 // The records hold one or two integers, which all units of a call share in registers: kernels this short would pay
 // for a memory operand in each unit.
 #include "frame/lane_frame.h"
+#include "frame/scalar.h"
 #include "kernels/exact/exact_data.h"
 #include "kernels/exact/special.h"
 
@@ -28,6 +29,9 @@ template <class Unit>
 struct Fabs {
     static constexpr bool bits_alone = true;
     static Unit main(Unit x) { return clear_bits(x, Sign<Unit>::bit); }
+
+    using Float = typename Layout<Unit>::Lane;
+    static Float scalar(Float x) { return magnitude_of(x); }
 };
 using fabsf = Fabs<F4>;
 using fabs = Fabs<D2>;
@@ -36,6 +40,9 @@ template <class Unit>
 struct CopySign {
     static constexpr bool bits_alone = true;
     static Unit main(Unit x, Unit y) { return or_bits(clear_bits(x, Sign<Unit>::bit), bits(y) & Sign<Unit>::bit); }
+
+    using Float = typename Layout<Unit>::Lane;
+    static Float scalar(Float x, Float y) { return or_sign_of(magnitude_of(x), y); }
 };
 using copysignf = CopySign<F4>;
 using copysign = CopySign<D2>;
@@ -67,6 +74,10 @@ template <class Unit>
 MaskOf<Unit> takes_first(Unit x, MaskOf<Unit> not_taken) {
     return ~not_taken & (x == x);
 }
+template <class Float>
+Float first_or_second(Float x, Float y, bool not_taken) {
+    return !not_taken && x == x ? x : y;
+}
 
 // The hardware's operation gives its second operand where the two are equal: of +0 and -0 the second.
 template <class Unit, const auto& record>
@@ -80,6 +91,9 @@ struct Fmin {
     struct Inlined {
         static constexpr bool bits_alone = true;
         static Unit main(Unit x, Unit y) { return select(takes_first(x, x >= y), x, y); }
+
+        using Float = typename Layout<Unit>::Lane;
+        static Float scalar(Float x, Float y) { return first_or_second(x, y, x >= y); }
     };
 };
 using fminf = Fmin<F4, fminf_data>;
@@ -96,6 +110,9 @@ struct Fmax {
     struct Inlined {
         static constexpr bool bits_alone = true;
         static Unit main(Unit x, Unit y) { return select(takes_first(x, x <= y), x, y); }
+
+        using Float = typename Layout<Unit>::Lane;
+        static Float scalar(Float x, Float y) { return first_or_second(x, y, x <= y); }
     };
 };
 using fmaxf = Fmax<F4, fmaxf_data>;
