@@ -50,7 +50,7 @@ inline std::string builtin_of(const Family& family, int width) {
 #define OPERATION(base, builtin, what) {#base, #builtin},
 #include "include/operations.def"
     };
-    std::string name = builtins.at(family.base);
+    const std::string& name = builtins.at(family.base);
     if (name == "none") return "";
     if (family.is_native) return "native_" + name;
     return name == "recip" || name == "divide" ? "" : name;  // these are operators in the accurate class

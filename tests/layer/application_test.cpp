@@ -55,7 +55,7 @@ class Application : public testing::Test {
         EXPECT_EQ(clGetProgramInfo(program, what, 0, nullptr, &size), CL_SUCCESS);
         std::string text(size, '\0');
         EXPECT_EQ(clGetProgramInfo(program, what, size, text.data(), nullptr), CL_SUCCESS);
-        return text.c_str();
+        return text.substr(0, text.find('\0'));
     }
     // The whole context goes: a reference that the layer kept would show.
     void TearDown() override {

@@ -48,7 +48,7 @@ inline std::string build_text(cl_program program, cl_device_id device, cl_progra
     check(clGetProgramBuildInfo(program, device, info, 0, nullptr, &size), "clGetProgramBuildInfo");
     std::string text(size, '\0');
     check(clGetProgramBuildInfo(program, device, info, size, text.data(), nullptr), "clGetProgramBuildInfo");
-    return text.c_str();
+    return text.substr(0, text.find('\0'));
 }
 
 inline cl_kernel create_kernel(cl_program program, const std::string& name) {
