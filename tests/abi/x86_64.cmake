@@ -49,6 +49,10 @@ endif()
 # The bitcode, optimised once more as a run-time does, with all of it in sight: the bits of every export, and the tests
 # of the library, as the bitcode takes instructions that the library does not.
 function(add_same_bits_test name instruction_set digest library)
+  # Instrumented code may take the factors in another order: of two NaN another one goes through then.
+  if(CMAKE_CXX_FLAGS MATCHES "-fsanitize")
+    return()
+  endif()
   add_test(NAME bits.${name}
            COMMAND ${CMAKE_CURRENT_SOURCE_DIR}/abi/runs_with.sh ${instruction_set}
                    ${CMAKE_CURRENT_SOURCE_DIR}/abi/same_bits.sh $<TARGET_FILE:digest> $<TARGET_FILE:ocl_zorv_v8>
