@@ -178,13 +178,16 @@ int main(int count, char** arguments) {
         Comparison many = compare(its, ours, family, wide, rounds);
         Comparison scalar = compare(its, ours, family, 1, rounds);
         bool as_good = one.its_error <= std::max(family.bound, one.our_error);
-        std::string name = grid::builtin_of(family, narrow) + " of " + grid::vector_name(family.operands[0], narrow);
+        auto name_at = [&](int width) {
+            return grid::builtin_of(family, width) + " of " + grid::vector_name(family.operands[0], width);
+        };
+        std::string name = name_at(narrow);
         std::printf("| %s | %.2f | %.2f | %.2f | %s | %s |\n", name.c_str(), one.ratio, many.ratio, scalar.ratio,
                     error_text(one.its_error).c_str(), error_text(one.our_error).c_str());
         std::fflush(stdout);
         if (as_good && one.ratio < 1) slower += (slower.empty() ? "" : ", ") + name;
         if (as_good && many.ratio < 1) slower_wide += (slower_wide.empty() ? "" : ", ") + name;
-        if (as_good && scalar.ratio < 1) slower_scalar += (slower_scalar.empty() ? "" : ", ") + name;
+        if (as_good && scalar.ratio < 1) slower_scalar += (slower_scalar.empty() ? "" : ", ") + name_at(1);
     }
     auto list = [](const char* what, const std::string& names) {
         std::printf("\n%s: %s.\n", what, names.empty() ? "none" : names.c_str());

@@ -58,8 +58,7 @@ inline D2 toward_zero(D2 x, const Data&) {
 // The sign is back before the step: what steps from 1 to 0 is +0.
 template <class Unit, class Data>
 inline Unit down(Unit x, const Data& data) {
-    Unit a = clear_bits(x, data.sign);
-    Unit r = or_bits(shift_out_fraction(a, data), bits(x) & data.sign);
+    Unit r = to_nearest(x, data);
     return r - and_bits(Unit(data.step), x < r);
 }
 
@@ -76,8 +75,7 @@ inline Unit toward_zero(Unit x, const Data& data) {
 // The sign is back before the step: (-1, -0.5) steps from -1 to +0, while [-0.5, 0) needs no step and gives -0.
 template <class Unit, class Data>
 inline Unit up(Unit x, const Data& data) {
-    Unit a = clear_bits(x, data.sign);
-    Unit r = or_bits(shift_out_fraction(a, data), bits(x) & data.sign);
+    Unit r = to_nearest(x, data);
     return r - and_bits(Unit(data.step), r < x);
 }
 
